@@ -1,0 +1,212 @@
+// SPDX-FileCopyrightText: 2026 The RkBaseUI developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+
+// Naming the city of a million random points inside the country, against the literal scan of all
+// boundaries and against GEOS, and whether all give the same names. The literal scan takes minutes for
+// all points, so it answers an evenly spread sample, and its time is scaled up; "--all" lets it answer
+// every point.
+
+#include "Bench.h"
+
+#include <RkBaseUI/RkCityCategory.h>
+
+#include <QCoreApplication>
+#include <QRandomGenerator>
+
+#include <geos_c.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace {
+
+constexpr int pointCount = 1000000;
+constexpr int sampleStep = 50;
+constexpr int runs = 5;
+
+using Boundaries = QList<QPair<QPolygonF, QString>>;
+
+std::vector<QPointF> pointsInside(const RkCityCategory& catalogue)
+{
+    QRectF country;
+    for (const auto& boundary : catalogue.cityBoundaries())
+        country |= boundary.first.boundingRect();
+    const QString nowhere = catalogue.GetCityName(PointLatLng(0, -150));
+    QRandomGenerator random(1);
+    std::vector<QPointF> points;
+    points.reserve(pointCount);
+    while (points.size() < pointCount) {
+        const QPointF point(country.left() + random.generateDouble() * country.width(),
+                            country.top() + random.generateDouble() * country.height());
+        if (catalogue.GetCityName(PointLatLng(point.x(), point.y())) != nowhere)
+            points.push_back(point);
+    }
+    return points;
+}
+
+/// Corners and middles of edges of every boundary.
+std::vector<QPointF> pointsOnEdges(const Boundaries& boundaries)
+{
+    std::vector<QPointF> points;
+    for (const auto& boundary : boundaries) {
+        const QPolygonF& polygon = boundary.first;
+        for (int i = 0; i + 1 < polygon.size(); ++i) {
+            points.push_back(polygon.at(i));
+            points.push_back((polygon.at(i) + polygon.at(i + 1)) / 2);
+        }
+    }
+    return points;
+}
+
+QString literalName(const Boundaries& boundaries, const QPointF& point)
+{
+    for (const auto& boundary : boundaries) {
+        if (boundary.first.containsPoint(point, Qt::OddEvenFill))
+            return boundary.second;
+    }
+    return RkCityCategory::tr("N/A");
+}
+
+/// Every `step`th point, answered by both; adds up the points and the differing names.
+struct Comparison
+{
+    long points = 0;
+    long different = 0;
+
+    void add(const RkCityCategory& catalogue, const std::vector<QPointF>& asked, std::size_t step)
+    {
+        for (std::size_t i = 0; i < asked.size(); i += step) {
+            const QPointF& point = asked[i];
+            ++points;
+            different += catalogue.GetCityName(PointLatLng(point.x(), point.y()))
+                         != literalName(catalogue.cityBoundaries(), point);
+        }
+    }
+};
+
+/// Prepared polygons behind a tree of their boxes.
+class GeosLookup
+{
+public:
+    explicit GeosLookup(const Boundaries& boundaries)
+        : m_context(GEOS_init_r())
+        , m_tree(GEOSSTRtree_create_r(m_context, 10))
+        , m_entries(std::size_t(boundaries.size()))
+    {
+        for (int i = 0; i < boundaries.size(); ++i) {
+            QPolygonF ring = boundaries.at(i).first;
+            if (!ring.isClosed())
+                ring.append(ring.first());
+            GEOSCoordSequence* sequence = GEOSCoordSeq_create_r(m_context, unsigned(ring.size()), 2);
+            for (int corner = 0; corner < ring.size(); ++corner)
+                GEOSCoordSeq_setXY_r(m_context, sequence, unsigned(corner), ring.at(corner).x(), ring.at(corner).y());
+            Entry& entry = m_entries[std::size_t(i)];
+            entry.geometry = GEOSGeom_createPolygon_r(m_context, GEOSGeom_createLinearRing_r(m_context, sequence),
+                                                      nullptr, 0);
+            entry.prepared = GEOSPrepare_r(m_context, entry.geometry);
+            entry.index = i;
+            GEOSSTRtree_insert_r(m_context, m_tree, entry.geometry, &entry);
+        }
+    }
+    ~GeosLookup()
+    {
+        GEOSSTRtree_destroy_r(m_context, m_tree);
+        for (const Entry& entry : m_entries) {
+            GEOSPreparedGeom_destroy_r(m_context, entry.prepared);
+            GEOSGeom_destroy_r(m_context, entry.geometry);
+        }
+        GEOS_finish_r(m_context);
+    }
+    Q_DISABLE_COPY(GeosLookup)
+
+    /// The first boundary that has the point in it or on its edge, -1 when none has.
+    int first(const QPointF& point) const
+    {
+        GEOSGeometry* const geometry = GEOSGeom_createPointFromXY_r(m_context, point.x(), point.y());
+        Query query = {m_context, geometry, -1};
+        GEOSSTRtree_query_r(m_context, m_tree, geometry, ask, &query);
+        GEOSGeom_destroy_r(m_context, geometry);
+        return query.found;
+    }
+
+private:
+    struct Entry
+    {
+        GEOSGeometry* geometry = nullptr;
+        const GEOSPreparedGeometry* prepared = nullptr;
+        int index = 0;
+    };
+    struct Query
+    {
+        GEOSContextHandle_t context;
+        const GEOSGeometry* point;
+        int found;
+    };
+
+    static void ask(void* item, void* data)
+    {
+        const Entry& entry = *static_cast<const Entry*>(item);
+        Query& query = *static_cast<Query*>(data);
+        if ((query.found < 0 || entry.index < query.found)
+            && GEOSPreparedIntersects_r(query.context, entry.prepared, query.point) == 1) {
+            query.found = entry.index;
+        }
+    }
+
+    GEOSContextHandle_t m_context;
+    GEOSSTRtree* m_tree;
+    std::vector<Entry> m_entries;
+};
+
+} // namespace
+
+int main(int argc, char** argv)
+{
+    const QCoreApplication application(argc, argv);
+    const bool all = QCoreApplication::arguments().contains("--all");
+    const RkCityCategory& catalogue = RkCityCategory::instance();
+    const Boundaries& boundaries = catalogue.cityBoundaries();
+    if (boundaries.isEmpty()) {
+        std::fprintf(stderr, "the catalogue beside the program cannot be read\n");
+        return 1;
+    }
+    const std::vector<QPointF> points = pointsInside(catalogue);
+
+    std::vector<QString> names(points.size());
+    const double ours = bench::medianSeconds(runs, [&] {
+        for (std::size_t i = 0; i < points.size(); ++i)
+            names[i] = catalogue.GetCityName(PointLatLng(points[i].x(), points[i].y()));
+    });
+
+    const std::size_t step = all ? 1 : sampleStep;
+    std::vector<QString> literalNames(points.size());
+    const double literal = double(step) * bench::medianSeconds(all ? 1 : runs, [&] {
+        for (std::size_t i = 0; i < points.size(); i += step)
+            literalNames[i] = literalName(boundaries, points[i]);
+    });
+
+    const GeosLookup geos(boundaries);
+    std::vector<int> found(points.size());
+    const auto askGeos = [&] {
+        for (std::size_t i = 0; i < points.size(); ++i)
+            found[i] = geos.first(points[i]);
+    };
+    askGeos(); // prepared geometries build their own index at the first question
+    const double floor = bench::medianSeconds(runs, askGeos);
+
+    Comparison random;
+    random.add(catalogue, points, step);
+    Comparison onEdges;
+    onEdges.add(catalogue, pointsOnEdges(boundaries), all ? 1 : 10);
+    long differentFromGeos = 0;
+    for (std::size_t i = 0; i < points.size(); ++i)
+        differentFromGeos += found[i] < 0 || names[i] != boundaries.at(found[i]).second;
+
+    bool met = bench::report(all ? "city of a point / literal scan" : "city of a point / literal scan (sampled)",
+                             pointCount, ours, literal, 1.0 / 200);
+    met = bench::report("city of a point / GEOS prepared, STRtree", pointCount, ours, floor, 1.0 / 5) && met;
+    std::printf("other names than the literal scan: %ld of %ld random points, %ld of %ld on corners and edges; "
+                "than GEOS: %ld of %d\n",
+                random.different, random.points, onEdges.different, onEdges.points, differentFromGeos, pointCount);
+    return met && random.different == 0 && onEdges.different == 0 ? 0 : 1;
+}

@@ -1,0 +1,57 @@
+# SPDX-FileCopyrightText: 2026 The RkBaseUI developers
+# SPDX-License-Identifier: LGPL-3.0-or-later
+
+# Warnings that every target of the project is built with.
+function(rk_set_warnings target)
+    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow)
+    if(RKBASEUI_WARNINGS_AS_ERRORS)
+        target_compile_options(${target} PRIVATE -Werror)
+    endif()
+endfunction()
+
+# rk_public_headers(<target> <package> <header>...)
+#
+# Makes each header reachable as <package/Header.h>: from the build tree through a forwarding header,
+# so that source folders keep their own layout, and after install as a flat copy. The install component
+# is that of the folder, RK_INSTALL_COMPONENT.
+function(rk_public_headers target package)
+    set(include_root "${PROJECT_BINARY_DIR}/include")
+    foreach(header IN LISTS ARGN)
+        get_filename_component(name "${header}" NAME)
+        get_filename_component(path "${header}" ABSOLUTE)
+        file(CONFIGURE OUTPUT "${include_root}/${package}/${name}"
+            CONTENT "#include \"${path}\"\n" @ONLY)
+        install(FILES "${path}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${package}" COMPONENT ${RK_INSTALL_COMPONENT})
+        set_property(GLOBAL APPEND PROPERTY RK_PUBLIC_HEADERS "${package}/${name}")
+    endforeach()
+    target_include_directories(${target} PUBLIC
+        "$<BUILD_INTERFACE:${include_root}>"
+        "$<INSTALL_INTERFACE:${CMAKE_INSTALL_INCLUDEDIR}>")
+endfunction()
+
+# rk_export_header(<target> <package> <PREFIX>)
+#
+# Generates <package/<package>Export.h> with <PREFIX>_EXPORT and installs it.
+function(rk_export_header target package prefix)
+    include(GenerateExportHeader)
+    set(header "${PROJECT_BINARY_DIR}/include/${package}/${package}Export.h")
+    generate_export_header(${target} BASE_NAME ${prefix} EXPORT_FILE_NAME "${header}")
+    install(FILES "${header}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${package}" COMPONENT ${RK_INSTALL_COMPONENT})
+endfunction()
+
+# rk_add_platform_library(<name> HEADERS <header>... SOURCES <source>... LINK <target>...)
+#
+# One shared library of the package RkPlatform, with its generated export header.
+function(rk_add_platform_library name)
+    cmake_parse_arguments(ARG "" "" "HEADERS;SOURCES;LINK" ${ARGN})
+    add_library(${name} SHARED ${ARG_SOURCES} ${ARG_HEADERS})
+    add_library(RkPlatform::${name} ALIAS ${name})
+    string(TOUPPER ${name} prefix)
+    set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
+    target_compile_features(${name} PUBLIC cxx_std_17)
+    target_link_libraries(${name} PUBLIC ${ARG_LINK})
+    rk_set_warnings(${name})
+    rk_export_header(${name} ${name} ${prefix})
+    rk_public_headers(${name} ${name} ${ARG_HEADERS})
+    install(TARGETS ${name} EXPORT RkPlatformTargets COMPONENT RkPlatform)
+endfunction()

@@ -1,0 +1,113 @@
+// SPDX-FileCopyrightText: 2026 The RkBaseUI developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+
+#include "support/TestSupport.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSettings>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QUuid>
+#include <QVariant>
+
+namespace {
+
+// Settings names of the reference platform; written out because the support library knows no platform.
+const char* const organizationName = "RkOrganization";
+const char* const cloudApplicationName = "RkCloud";
+
+/// A connection that goes with the object.
+class Connection
+{
+public:
+    explicit Connection(const QString& file)
+        : m_name(QUuid::createUuid().toString())
+    {
+        m_database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_name);
+        m_database.setDatabaseName(file);
+        m_database.open();
+        QSqlQuery(m_database).exec(QStringLiteral("PRAGMA synchronous=OFF")); // Nothing here must survive.
+    }
+    ~Connection()
+    {
+        m_database = QSqlDatabase();
+        QSqlDatabase::removeDatabase(m_name);
+    }
+    Q_DISABLE_COPY(Connection)
+
+    const QSqlDatabase& database() const { return m_database; }
+
+private:
+    QString m_name;
+    QSqlDatabase m_database;
+};
+
+} // namespace
+
+TestHome::TestHome()
+{
+    Q_ASSERT(m_dir.isValid());
+    QDir().mkpath(projectRoot());
+    const QString config = path() + QStringLiteral("/config");
+    qputenv("HOME", QFile::encodeName(path()));
+    qputenv("XDG_CONFIG_HOME", QFile::encodeName(config));
+    qputenv("XDG_DATA_HOME", QFile::encodeName(path() + QStringLiteral("/data")));
+    qputenv("RK_PROJECT_DIR", QFile::encodeName(projectRoot()));
+    QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, config);
+}
+
+TestHome::~TestHome() = default;
+
+QString TestHome::path() const
+{
+    return m_dir.path();
+}
+
+QString TestHome::projectRoot() const
+{
+    return m_dir.path() + QStringLiteral("/projects/");
+}
+
+void TestHome::setCurrentUserId(const QString& userId)
+{
+    QSettings settings(QString::fromLatin1(organizationName), QString::fromLatin1(cloudApplicationName));
+    settings.setValue(QStringLiteral("UserInfo/UserID"), userId);
+}
+
+bool runSql(const QString& file, const QStringList& statements)
+{
+    if (!QDir().mkpath(QFileInfo(file).absolutePath()))
+        return false;
+    const Connection connection(file);
+    for (const QString& statement : statements) {
+        if (!QSqlQuery(connection.database()).exec(statement))
+            return false;
+    }
+    return true;
+}
+
+QStringList readSql(const QString& file, const QString& statement)
+{
+    QStringList values;
+    const Connection connection(file);
+    QSqlQuery query(connection.database());
+    query.exec(statement);
+    while (query.next())
+        values.append(query.value(0).toString());
+    return values;
+}
+
+QByteArray readFile(const QString& path)
+{
+    QFile file(path);
+    return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+bool writeFile(const QString& path, const QByteArray& content)
+{
+    QFile file(path);
+    return QDir().mkpath(QFileInfo(path).absolutePath()) && file.open(QIODevice::WriteOnly)
+           && file.write(content) == content.size();
+}
