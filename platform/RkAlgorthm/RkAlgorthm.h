@@ -1,0 +1,19 @@
+// SPDX-FileCopyrightText: 2026 The RkBaseUI developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+
+#pragma once
+
+// Every public header of the library, less the settings of the reference implementation.
+
+#include <RkAlgorthm/Constants.h>
+#include <RkAlgorthm/CRkPoint2D.h>
+#include <RkAlgorthm/CRkVector3D.h>
+#include <RkAlgorthm/CurrentUser.h>
+#include <RkAlgorthm/Gravity.h>
+#include <RkAlgorthm/PointLatLng.h>
+#include <RkAlgorthm/ServerAddress.h>
+#include <RkAlgorthm/SoftwareVersion.h>
+#include <RkAlgorthm/SurveyEnums.h>
+#include <RkAlgorthm/TableLayouts.h>
+#include <RkAlgorthm/TypeNames.h>
+#include <RkAlgorthm/Uid.h>
