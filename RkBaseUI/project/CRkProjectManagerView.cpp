@@ -1,0 +1,323 @@
+// SPDX-FileCopyrightText: 2026 The RkBaseUI developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+
+#include "project/CRkProjectManagerView.h"
+
+#include "project/CRkGraphicsProjectImageItem.h"
+#include "project/CRkGraphicsProjectRectItem.h"
+#include "project/CRkGraphicsProjectTextItem.h"
+#include "project/ProjectFilter.h"
+#include "project/ProjectListing.h"
+#include "project/Thumbnail.h"
+#include "project/ThumbnailQueue.h"
+#include "project/TileGrid.h"
+#include "project/UniqueProjectName.h"
+
+#include <RkAlgorthm/RkAlgorthm.h>
+#include <RkData/RkData.h>
+
+#include <QDir>
+#include <QFileInfo>
+#include <QGraphicsScene>
+#include <QMouseEvent>
+#include <QScrollBar>
+
+#include <algorithm>
+
+namespace {
+
+constexpr qreal tileWidth = 200;
+constexpr qreal tileHeight = 180;
+constexpr QPointF thumbnailPosition(5, 5);
+constexpr QPointF captionPosition(5, 148);
+constexpr qreal captionWidth = 190;
+constexpr qreal captionZ = 2;
+
+QString defaultThumbnail()
+{
+    return QStringLiteral(":/images/Normal/Thumbnails.png");
+}
+
+QString baseName(const CRkGraphicsProjectRectItem* tile)
+{
+    return QFileInfo(tile->GetProjectFilePath()).completeBaseName();
+}
+
+} // namespace
+
+CRkProjectManagerView::CRkProjectManagerView(QWidget* parent)
+    : QGraphicsView(parent)
+    , m_scene(std::make_unique<QGraphicsScene>())
+{
+    // The tiles grow far beyond the scene rectangle, where an index tree has no leaves of its own.
+    m_scene->setItemIndexMethod(QGraphicsScene::NoIndex);
+    connect(m_scene.get(), &QGraphicsScene::selectionChanged, this,
+            &CRkProjectManagerView::_keepOneSelected);
+
+    setAccessibleName(tr("Projects"));
+    setAlignment(Qt::AlignLeft | Qt::AlignTop);
+    setMouseTracking(true);
+    setScene(m_scene.get());
+    setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
+    setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    verticalScrollBar()->setObjectName(QStringLiteral("verticalScrollBarProjectManagerView"));
+
+    if (parent)
+        resize(parent->size());
+    m_scene->setSceneRect(rect());
+
+    LoadExistProjects();
+}
+
+CRkProjectManagerView::~CRkProjectManagerView()
+{
+    disconnect(m_scene.get(), nullptr, this, nullptr);
+}
+
+void CRkProjectManagerView::ResetItemPos()
+{
+    if (m_visibleTiles.isEmpty())
+        return;
+    const int last = m_visibleTiles.size() - 1;
+    for (int i = 0; i < last; ++i)
+        m_visibleTiles[i]->setPos(TileGrid::position(i, rect().width()));
+    // Scene and scroll bar follow the last tile alone: a shorter scene in between would take the scroll
+    // bar away and, with it, lay out everything once more.
+    m_visibleTiles[last]->setPos(_calculateProjectItemPos(last));
+}
+
+void CRkProjectManagerView::slotNewProject()
+{
+    const QString name = _getUniqueProjcetName(QString());
+    const QString folder = CRkControl::GetInstance()->GetProjectDirPath() + name + QLatin1Char('/');
+    if (!QDir(folder).exists())
+        QDir().mkpath(folder);
+    AddProjectItem(defaultThumbnail(), folder + name + ProjectSuffix, true);
+}
+
+void CRkProjectManagerView::slotCopyProject()
+{
+}
+
+void CRkProjectManagerView::slotDeleteProject()
+{
+}
+
+void CRkProjectManagerView::slotFilterConditionChanged(const QString& cityCondition,
+                                                       const QString& dateCondition,
+                                                       const QString& /*sourceCondition*/,
+                                                       const QString& keywordCondition)
+{
+    // An open caption ends its editing before the tiles are touched.
+    m_scene->setFocusItem(nullptr);
+
+    const ProjectFilter filter({cityCondition, dateCondition, keywordCondition},
+                               {tr("date"), tr("to"), tr("city"), tr("all")});
+    m_visibleTiles.clear();
+    for (CRkGraphicsProjectRectItem* tile : qAsConst(m_tiles)) {
+        if (isConditionPassed(tile, filter))
+            m_visibleTiles.append(tile);
+        else
+            tile->setSelected(false);
+    }
+
+    for (CRkGraphicsProjectRectItem* tile : qAsConst(m_tiles)) {
+        if (tile->scene())
+            m_scene->removeItem(tile);
+    }
+    for (CRkGraphicsProjectRectItem* tile : qAsConst(m_visibleTiles))
+        m_scene->addItem(tile);
+
+    verticalScrollBar()->setValue(0);
+    ResetItemPos();
+}
+
+void CRkProjectManagerView::slotOpenProject()
+{
+}
+
+void CRkProjectManagerView::slotRenameProjectItem(const QString& /*newName*/)
+{
+}
+
+void CRkProjectManagerView::resizeEvent(QResizeEvent* event)
+{
+    QGraphicsView::resizeEvent(event);
+    ResetItemPos();
+    verticalScrollBar()->setValue(0);
+}
+
+void CRkProjectManagerView::mouseReleaseEvent(QMouseEvent* event)
+{
+    if (CRkGraphicsProjectRectItem* tile = _tileOfThumbnailAt(event->pos()))
+        _UnSelectOtherItem(tile);
+    QGraphicsView::mouseReleaseEvent(event);
+}
+
+void CRkProjectManagerView::mouseDoubleClickEvent(QMouseEvent* event)
+{
+    if (!itemAt(event->pos())) {
+        // Beside the tiles a double click is no more than a movement.
+        QGraphicsView::mouseMoveEvent(event);
+        return;
+    }
+    const CRkGraphicsProjectRectItem* tile = _tileOfThumbnailAt(event->pos());
+    if (!tile) {
+        QGraphicsView::mouseDoubleClickEvent(event);
+        return;
+    }
+    m_openedProjectName = baseName(tile);
+    emit projectOpened(tile->GetProjectFilePath());
+}
+
+void CRkProjectManagerView::LoadExistProjects()
+{
+    const QString root = CRkControl::GetInstance()->GetProjectDirPath();
+    if (!QDir(root).exists())
+        return;
+
+    const QString userId = ProjectListing::currentUserId();
+    const QPixmap noThumbnail(defaultThumbnail());
+    ThumbnailQueue thumbnails;
+    const QStringList files = ProjectListing::projectFiles(root);
+    for (const QString& file : files) {
+        if (const std::optional<ProjectRecord> project = ProjectListing::read(file, userId)) {
+            thumbnails.add(project->imageData);
+            _addTile(*project, noThumbnail);
+        }
+    }
+
+    const std::deque<QImage> images = thumbnails.takeImages();
+    for (int i = 0; i < m_tiles.size(); ++i) {
+        const QImage& image = images[std::size_t(i)];
+        if (!image.isNull())
+            m_tiles[i]->GetImageItem()->setPixmap(QPixmap::fromImage(image));
+    }
+}
+
+CRkGraphicsProjectRectItem* CRkProjectManagerView::AddProjectItem(const QString& defaultImage,
+                                                                  const QString& projectFile, bool isNew)
+{
+    const QString userId = ProjectListing::currentUserId();
+    const std::optional<ProjectRecord> project = isNew ? ProjectListing::create(projectFile, userId)
+                                                       : ProjectListing::read(projectFile, userId);
+    if (!project)
+        return nullptr;
+    const QImage image = Thumbnail::decode(project->imageData);
+    return _addTile(*project, image.isNull() ? QPixmap(defaultImage) : QPixmap::fromImage(image));
+}
+
+void CRkProjectManagerView::LoadBlockGravityListForProject(CRkGraphicsProjectRectItem* tile)
+{
+    const BlockPlaces blocks = ProjectListing::loadBlocks(tile->GetProjectFilePath(), tile->GetProjectID(),
+                                                          tile->GetSoftwareVersion());
+    tile->SetGravityList(tile->GetGravityList() + blocks.centres);
+    tile->SetProvinceCityList(blocks.places);
+}
+
+bool CRkProjectManagerView::isConditionPassed(const CRkGraphicsProjectRectItem* tile,
+                                              const ProjectFilter& filter) const
+{
+    return filter.passes({baseName(tile), tile->GetTextItem()->GetPrjModifiedDateTime(),
+                          tile->GetProvinceCityList()});
+}
+
+CRkGraphicsProjectRectItem* CRkProjectManagerView::_addTile(const ProjectRecord& project,
+                                                            const QPixmap& pixmap)
+{
+    auto* tile = new CRkGraphicsProjectRectItem;
+    tile->setParent(m_scene.get()); // So that a tile which a filter keeps out of the scene goes with it.
+    tile->setRect(0, 0, tileWidth, tileHeight);
+    tile->setFlag(QGraphicsItem::ItemIsSelectable);
+    tile->setPos(_calculateProjectItemPos(m_visibleTiles.size()));
+    m_scene->addItem(tile);
+
+    auto* thumbnail = new CRkGraphicsProjectImageItem(tile);
+    thumbnail->setObjectName(QStringLiteral("PrjImage"));
+    thumbnail->setPos(thumbnailPosition);
+    thumbnail->setPixmap(pixmap);
+    thumbnail->setToolTip(project.name);
+
+    auto* caption = new CRkGraphicsProjectTextItem(tile);
+    caption->setObjectName(QStringLiteral("PrjText"));
+    caption->setTextWidth(captionWidth);
+    caption->setZValue(captionZ);
+    caption->setPos(captionPosition);
+    caption->SetPrjName(project.name);
+    caption->SetPrjSize(project.size);
+    caption->SetPrjModifiedDateTime(project.modified);
+    caption->buildDisplayAndToolTip();
+    connect(caption, &CRkGraphicsProjectTextItem::editFinished, this,
+            &CRkProjectManagerView::slotRenameProjectItem, Qt::UniqueConnection);
+
+    tile->SetProjectFilePath(project.filePath);
+    tile->SetProjectName(project.name);
+    tile->SetProjectID(project.id);
+    tile->SetSoftwareVersion(project.softwareVersion);
+    tile->SetImageItem(thumbnail);
+    tile->SetTextItem(caption);
+    tile->SetProvinceCityList(project.places);
+
+    m_tiles.append(tile);
+    m_visibleTiles.append(tile);
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+    return tile;
+}
+
+QPoint CRkProjectManagerView::_calculateProjectItemPos(int index)
+{
+    const int height = TileGrid::sceneHeight(index, rect().width());
+    setSceneRect(0, 0, m_scene->sceneRect().width(), height);
+    verticalScrollBar()->setValue(height);
+    return TileGrid::position(index, rect().width());
+}
+
+void CRkProjectManagerView::_UnSelectOtherItem(CRkGraphicsProjectRectItem* tile)
+{
+    for (CRkGraphicsProjectRectItem* visible : qAsConst(m_visibleTiles))
+        visible->setSelected(visible == tile);
+}
+
+CRkGraphicsProjectRectItem* CRkProjectManagerView::_getSelectedProjectItem() const
+{
+    const QList<QGraphicsItem*> selected = m_scene->selectedItems();
+    return selected.isEmpty() ? nullptr : dynamic_cast<CRkGraphicsProjectRectItem*>(selected.first());
+}
+
+void CRkProjectManagerView::_keepOneSelected()
+{
+    // A click with the control key would otherwise add a second tile to the selection.
+    const QList<QGraphicsItem*> selected = m_scene->selectedItems();
+    const auto isNew = [this](const QGraphicsItem* item) { return item != m_lastSelected; };
+    const auto newest = std::find_if(selected.begin(), selected.end(), isNew);
+    m_lastSelected = newest != selected.end() ? *newest : selected.value(0);
+    for (QGraphicsItem* item : selected) {
+        if (item != m_lastSelected)
+            item->setSelected(false);
+    }
+}
+
+CRkGraphicsProjectRectItem* CRkProjectManagerView::_tileOfThumbnailAt(const QPoint& position) const
+{
+    const auto* thumbnail = dynamic_cast<CRkGraphicsProjectImageItem*>(itemAt(position));
+    return thumbnail ? dynamic_cast<CRkGraphicsProjectRectItem*>(thumbnail->parentItem()) : nullptr;
+}
+
+QStringList CRkProjectManagerView::_projectFiles() const
+{
+    QStringList files;
+    for (const CRkGraphicsProjectRectItem* tile : m_tiles)
+        files.append(tile->GetProjectFilePath());
+    return files;
+}
+
+bool CRkProjectManagerView::_existName(const QString& name) const
+{
+    return UniqueProjectName::isTaken(name, _projectFiles(), qOverload<const QString&>(&QFileInfo::exists));
+}
+
+QString CRkProjectManagerView::_getUniqueProjcetName(const QString& base) const
+{
+    return UniqueProjectName::make(base.isEmpty() ? tr("New Project") : base, _projectFiles(),
+                                   qOverload<const QString&>(&QFileInfo::exists));
+}
