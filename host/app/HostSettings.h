@@ -1,0 +1,27 @@
+// SPDX-FileCopyrightText: 2026 The RkBaseUI developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+
+#pragma once
+
+#include <QString>
+
+/// What the host tells the library before it makes the first window.
+namespace HostSettings {
+
+/// The folder that holds the projects.
+void setProjectRoot(const QString& folder);
+
+/// Whose projects are shown. Written to the settings, where the library reads it.
+void setCurrentUser(const QString& userId);
+
+/// Whether this system keeps native settings in files, so that `useFolder` works.
+bool canUseFolder();
+
+/// Keeps all settings of this process in files below the folder, away from those of the person who runs
+/// it. Call before the first settings are read.
+void useFolder(const QString& folder);
+
+/// Installs the texts of library, host and toolkit in a language, "zh_CN" or "en".
+void installLanguage(const QString& language);
+
+} // namespace HostSettings

@@ -1,0 +1,136 @@
+// SPDX-FileCopyrightText: 2026 The RkBaseUI developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+
+#include "app/GalleryWindows.h"
+#include "app/HostSettings.h"
+#include "app/HostWindow.h"
+#include "samples/SampleProjects.h"
+
+#include <QApplication>
+#include <QCommandLineParser>
+#include <QFont>
+#include <QLocale>
+#include <QTemporaryDir>
+#include <QTextStream>
+
+namespace {
+
+const char* const scaleVariable = "QT_SCALE_FACTOR";
+
+struct Options
+{
+    QString projects;
+    QString userId;
+    QString gallery;
+    QString language;
+};
+
+void addOptions(QCommandLineParser& parser)
+{
+    parser.setApplicationDescription(QStringLiteral("Plans and manages aerial surveys."));
+    parser.addHelpOption();
+    parser.addOption({QStringLiteral("projects"), QStringLiteral("Folder of the projects."), QStringLiteral("DIR")});
+    parser.addOption({QStringLiteral("user"), QStringLiteral("Show the projects of this user; the settings keep it."),
+                      QStringLiteral("ID"), sampleUserId()});
+    parser.addOption({QStringLiteral("gallery"),
+                      QStringLiteral("Write a picture of every window into a folder and exit. Sample projects "
+                                     "and settings of its own are used."),
+                      QStringLiteral("DIR")});
+    parser.addOption({QStringLiteral("scale"), QStringLiteral("Scale of the user interface."), QStringLiteral("FACTOR")});
+    parser.addOption({QStringLiteral("lang"), QStringLiteral("zh_CN or en; that of the system unless given."),
+                      QStringLiteral("LANGUAGE")});
+}
+
+QStringList argumentList(int argc, char* argv[])
+{
+    QStringList arguments;
+    for (int i = 0; i < argc; ++i)
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    return arguments;
+}
+
+/// Chinese in the Chinese forms of the characters, whatever the system's language is.
+QFont applicationFont()
+{
+    QFont font = QApplication::font();
+    font.setFamilies({font.family(), QStringLiteral("Noto Sans CJK SC"), QStringLiteral("Microsoft YaHei")});
+    return font;
+}
+
+QString systemLanguage()
+{
+    return QLocale::system().language() == QLocale::Chinese ? QStringLiteral("zh_CN") : QStringLiteral("en");
+}
+
+int runGallery(const Options& options)
+{
+    QTextStream out(stdout);
+    QTextStream errors(stderr);
+    out.setCodec("UTF-8");
+    errors.setCodec("UTF-8");
+    const QTemporaryDir home;
+    if (!HostSettings::canUseFolder() || !home.isValid()) {
+        errors << "This system has no place for settings of the gallery's own." << Qt::endl;
+        return 1;
+    }
+    HostSettings::useFolder(home.path());
+    HostSettings::setCurrentUser(sampleUserId());
+    SampleOptions samples;
+    samples.root = home.filePath(QStringLiteral("projects"));
+    samples.userId = sampleUserId();
+    samples.now = QDateTime(QDate(2026, 6, 15), QTime(10, 0)); // The same pictures on every day.
+    HostSettings::setProjectRoot(samples.root);
+    if (writeSampleProjects(samples).isEmpty()) {
+        errors << "Cannot write sample projects." << Qt::endl;
+        return 1;
+    }
+    QApplication::setCursorFlashTime(0);
+    return Gallery::render(galleryWindows(), options.gallery, options.language, out, errors) ? 0 : 1;
+}
+
+int runWindow(const Options& options)
+{
+    if (!options.projects.isEmpty())
+        HostSettings::setProjectRoot(options.projects);
+    HostSettings::setCurrentUser(options.userId);
+    HostWindow window;
+    window.show();
+    return QApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char* argv[])
+{
+    // The scale must be known before the application is.
+    QCommandLineParser parser;
+    addOptions(parser);
+    const bool isUnderstood = parser.parse(argumentList(argc, argv));
+    bool isScale = true;
+    if (parser.isSet(QStringLiteral("scale"))) {
+        const double scale = parser.value(QStringLiteral("scale")).toDouble(&isScale);
+        isScale = isScale && scale >= 0.5 && scale <= 4;
+        if (isScale)
+            qputenv(scaleVariable, QByteArray::number(scale));
+    }
+    QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
+    QApplication::setStyle(QStringLiteral("Fusion"));
+    const QApplication application(argc, argv);
+    if (!isUnderstood || !isScale || !parser.positionalArguments().isEmpty()) {
+        QTextStream(stderr) << (isUnderstood ? QString() : parser.errorText() + QLatin1Char('\n'))
+                            << parser.helpText();
+        return 2;
+    }
+    if (parser.isSet(QStringLiteral("help")))
+        parser.showHelp();
+
+    Options options;
+    options.projects = parser.value(QStringLiteral("projects"));
+    options.userId = parser.value(QStringLiteral("user"));
+    options.gallery = parser.value(QStringLiteral("gallery"));
+    options.language = parser.isSet(QStringLiteral("lang")) ? parser.value(QStringLiteral("lang"))
+                                                            : systemLanguage();
+    QApplication::setFont(applicationFont());
+    HostSettings::installLanguage(options.language);
+    return options.gallery.isEmpty() ? runWindow(options) : runGallery(options);
+}
