@@ -25,7 +25,7 @@
 
 namespace {
 
-constexpr int runs = 15;
+constexpr int runs = 31;
 
 struct Place
 {

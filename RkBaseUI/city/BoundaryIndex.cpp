@@ -16,6 +16,9 @@ constexpr double smallestRise = 1e-9;
 constexpr int cellsPerSide = 512;
 /// Keeps every outline, widened by the tolerance, inside the grid.
 constexpr double gridMargin = 1e-6;
+/// An outline whose edges are longer on the whole, in cells, would fill the grid and save nothing.
+constexpr int piecesPerCorner = 4;
+constexpr int piecesPerPolygon = 4 * cellsPerSide;
 constexpr int nothing = -1;
 
 /// The ring as the fill rule sees it: closed unless its ends already coincide, by the toolkit's measure.
@@ -54,12 +57,12 @@ BandedPolygon::BandedPolygon(const QPolygonF& polygon)
     m_bandsPerUnit = m_bandCount / (m_top - m_bottom);
 
     std::vector<int> sizes(static_cast<std::size_t>(m_bandCount), 0);
-    forEachBandOfEdge([&sizes](int, int band) { ++sizes[static_cast<std::size_t>(band)]; });
+    forEachBandOfEdge([&sizes](const Edge&, int band) { ++sizes[static_cast<std::size_t>(band)]; });
     m_bandStart.resize(sizes.size() + 1, 0);
     std::partial_sum(sizes.cbegin(), sizes.cend(), m_bandStart.begin() + 1);
     m_edges.resize(static_cast<std::size_t>(m_bandStart.back()));
     std::vector<int> ends(m_bandStart.cbegin(), m_bandStart.cend() - 1);
-    forEachBandOfEdge([this, &ends](int edge, int band) {
+    forEachBandOfEdge([this, &ends](const Edge& edge, int band) {
         m_edges[static_cast<std::size_t>(ends[static_cast<std::size_t>(band)]++)] = edge;
     });
 }
@@ -72,13 +75,14 @@ int BandedPolygon::band(double y) const
 template <typename Visit>
 void BandedPolygon::forEachBandOfEdge(Visit visit) const
 {
-    for (int edge = 0; edge + 1 < m_ring.size(); ++edge) {
-        const double from = m_ring.at(edge).y();
-        const double to = m_ring.at(edge + 1).y();
-        if (from == to)
+    for (int i = 0; i + 1 < m_ring.size(); ++i) {
+        Edge edge {m_ring.at(i), m_ring.at(i + 1)};
+        if (edge.high.y() == edge.low.y())
             continue;
-        const int last = band(std::max(from, to));
-        for (int current = band(std::min(from, to)); current <= last; ++current)
+        if (edge.high.y() < edge.low.y())
+            std::swap(edge.low, edge.high);
+        const int last = band(edge.high.y());
+        for (int current = band(edge.low.y()); current <= last; ++current)
             visit(edge, current);
     }
 }
@@ -91,14 +95,10 @@ bool BandedPolygon::contains(const QPointF& point) const
     const auto place = static_cast<std::size_t>(band(y));
     bool inside = false;
     for (int listed = m_bandStart[place]; listed < m_bandStart[place + 1]; ++listed) {
-        const QPointF* low = m_ring.constData() + m_edges[static_cast<std::size_t>(listed)];
-        const QPointF* high = low + 1;
-        if (high->y() < low->y())
-            std::swap(low, high);
-        if (y < low->y() || y >= high->y())
+        const auto& [low, high] = m_edges[static_cast<std::size_t>(listed)];
+        if (y < low.y() || y >= high.y())
             continue;
-        const double crossing
-            = low->x() + (high->x() - low->x()) / (high->y() - low->y()) * (y - low->y());
+        const double crossing = low.x() + (high.x() - low.x()) / (high.y() - low.y()) * (y - low.y());
         // A point on the edge is decided by the toolkit itself, in whose rounding it lies.
         if (std::abs(crossing - point.x()) <= tolerance)
             return m_ring.containsPoint(point, Qt::OddEvenFill);
@@ -127,14 +127,19 @@ BoundaryIndex::BoundaryIndex(const QVector<QPolygonF>& polygons)
     for (int i = 0; i < polygons.size(); ++i) {
         if (BandedPolygon::isEven(polygons.at(i)))
             m_polygons[static_cast<std::size_t>(i)] = BandedPolygon(polygons.at(i));
-        else
-            m_oddities.push_back({i, polygons.at(i)});
     }
     setExtent();
     // From the last to the first, because each goes before what its cells hold already.
     std::vector<int> marks(m_cells.size(), nothing);
-    for (int i = polygons.size() - 1; i >= 0; --i)
-        addPolygon(i, marks);
+    for (int i = polygons.size() - 1; i >= 0; --i) {
+        if (polygons.at(i).isEmpty())
+            continue;
+        if (m_polygons[static_cast<std::size_t>(i)].ring().isEmpty() || !markOutline(i, marks))
+            m_ungridded.push_back({i, polygons.at(i)});
+        else
+            addPolygon(i, marks);
+    }
+    std::reverse(m_ungridded.begin(), m_ungridded.end());
 }
 
 void BoundaryIndex::setExtent()
@@ -179,15 +184,19 @@ BoundaryIndex::CellRange BoundaryIndex::cellsAround(const QPointF& corner, const
             row(std::max(corner.y(), opposite.y()) + slack)};
 }
 
-void BoundaryIndex::markOutline(int polygon, std::vector<int>& marks) const
+bool BoundaryIndex::markOutline(int polygon, std::vector<int>& marks) const
 {
     const QPolygonF& ring = m_polygons[static_cast<std::size_t>(polygon)].ring();
+    int piecesLeft = piecesPerCorner * ring.size() + piecesPerPolygon;
     for (int i = 0; i < ring.size(); ++i) {
         const QPointF from = ring.at(i);
         const QPointF step = ring.at((i + 1) % ring.size()) - from;
         const CellRange all = cellsAround(from, from + step);
         // A long edge goes in pieces about as long as a cell, to mark no more than it touches.
         const int pieces = std::max(all.right - all.left, all.top - all.bottom) + 1;
+        piecesLeft -= pieces;
+        if (piecesLeft < 0)
+            return false;
         for (int piece = 0; piece < pieces; ++piece) {
             const CellRange cells
                 = cellsAround(from + step * (double(piece) / pieces), from + step * (double(piece + 1) / pieces));
@@ -197,14 +206,12 @@ void BoundaryIndex::markOutline(int polygon, std::vector<int>& marks) const
             }
         }
     }
+    return true;
 }
 
-void BoundaryIndex::addPolygon(int polygon, std::vector<int>& marks)
+void BoundaryIndex::addPolygon(int polygon, const std::vector<int>& marks)
 {
     const BandedPolygon& shape = m_polygons[static_cast<std::size_t>(polygon)];
-    if (shape.ring().isEmpty())
-        return;
-    markOutline(polygon, marks);
     const QRectF bounds = shape.ring().boundingRect();
     const CellRange range = cellsAround(bounds.topLeft(), bounds.bottomRight());
     for (int row = range.bottom; row <= range.top; ++row) {
@@ -248,11 +255,11 @@ int BoundaryIndex::firstInGrid(const QPointF& point) const
 int BoundaryIndex::firstContaining(const QPointF& point) const
 {
     const int found = firstInGrid(point);
-    for (const Oddity& oddity : m_oddities) {
-        if (found != nothing && oddity.polygon > found)
+    for (const auto& [polygon, shape] : m_ungridded) {
+        if (found != nothing && polygon > found)
             break;
-        if (oddity.shape.containsPoint(point, Qt::OddEvenFill))
-            return oddity.polygon;
+        if (shape.containsPoint(point, Qt::OddEvenFill))
+            return polygon;
     }
     return found;
 }

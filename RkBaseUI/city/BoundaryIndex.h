@@ -34,6 +34,12 @@ public:
     static constexpr double tolerance = 1e-11;
 
 private:
+    struct Edge
+    {
+        QPointF low;
+        QPointF high;
+    };
+
     int band(double y) const;
     /// Calls `visit(edge, band)` for every band that an edge of the ring crosses.
     template <typename Visit>
@@ -45,7 +51,7 @@ private:
     double m_bandsPerUnit = 0.0;
     int m_bandCount = 0;
     std::vector<int> m_bandStart; ///< where the edges of a band start in m_edges, and one more for the end
-    std::vector<int> m_edges;     ///< an edge is the index in the ring of the point where it starts
+    std::vector<Edge> m_edges;
 };
 
 /// Finds the first polygon of a list that contains a point. The answer is always that of asking
@@ -73,7 +79,7 @@ private:
         int polygon;
         int next;
     };
-    struct Oddity
+    struct Ungridded
     {
         int polygon;
         QPolygonF shape;
@@ -84,8 +90,9 @@ private:
     };
 
     void setExtent();
-    void addPolygon(int polygon, std::vector<int>& marks);
-    void markOutline(int polygon, std::vector<int>& marks) const;
+    void addPolygon(int polygon, const std::vector<int>& marks);
+    /// Notes in `marks` every cell that the outline may touch. False when that is more than is sensible.
+    bool markOutline(int polygon, std::vector<int>& marks) const;
     int firstInGrid(const QPointF& point) const;
     int column(double x) const;
     int row(double y) const;
@@ -100,6 +107,6 @@ private:
     /// whole cell", and anything above an index into m_candidates, counted from the number of polygons.
     std::vector<int> m_cells;
     std::vector<Candidate> m_candidates;
-    /// The polygons that are not even, in order; always asked one by one.
-    std::vector<Oddity> m_oddities;
+    /// The polygons that the grid does not hold, in order; always asked one by one.
+    std::vector<Ungridded> m_ungridded;
 };

@@ -67,6 +67,7 @@ struct RkCityCategory::Catalogue
     void forEachRow(const QString& statement, Visit visit) const;
     QStringList firstColumn(const QString& statement) const;
 
+    void read();
     void readProvinces();
     void readCityLists();
     void readCentres();
@@ -101,6 +102,17 @@ QStringList RkCityCategory::Catalogue::firstColumn(const QString& statement) con
     QStringList values;
     forEachRow(statement, [&values](const QSqlQuery& row) { values.append(row.value(0).toString()); });
     return values;
+}
+
+void RkCityCategory::Catalogue::read()
+{
+    // In one transaction, so that the file is locked once and not for each of the many statements.
+    database.transaction();
+    readProvinces();
+    readCityLists();
+    readCentres();
+    readBoundaries();
+    database.commit();
 }
 
 void RkCityCategory::Catalogue::readProvinces()
@@ -176,10 +188,7 @@ void RkCityCategory::loadFromFile()
                            + QStringLiteral("/ChinaAdminiDstrict.db"))) {
         return;
     }
-    m_catalogue->readProvinces();
-    m_catalogue->readCityLists();
-    m_catalogue->readCentres();
-    m_catalogue->readBoundaries();
+    m_catalogue->read();
 }
 
 PointLatLng RkCityCategory::getLatLng(const QString& name) const

@@ -2,7 +2,7 @@
 # SPDX-License-Identifier: LGPL-3.0-or-later
 """Puts the package's outlines and the hand-made tables together into the text of the catalogue."""
 
-from . import datum, package, tables, topology
+from . import arcs, coverage, datum, geometry, package, snapping, tables
 
 # Coordinates are counted in ten-thousandths of a degree, about 11 m.
 UNITS_PER_DEGREE = 10000
@@ -11,9 +11,9 @@ UNITS_PER_DEGREE = 10000
 MERGE_DISTANCE = 25
 SNAP_DISTANCE = 60
 # An inlet at most this wide and long between two units is land that the package leaves out.
-INLET_WIDTH = 150
-INLET_LENGTH = 20000
-SIMPLIFY_TOLERANCE = 12
+INLET_WIDTH = 200
+INLET_LENGTH = 30000
+SIMPLIFY_TOLERANCE = 20
 # An area in square units; at 30 degrees north 1 km2 is about 9,400 of them.
 SPECK = 20_000
 
@@ -113,8 +113,41 @@ def _nearer_half(ring, town, other):
 
 def cover(outlines, city_of, split_table):
     """{city code: closed rings} of a coverage without gaps and overlaps, and a report."""
-    outlines = topology.snap(outlines, MERGE_DISTANCE, SNAP_DISTANCE)
+    outlines = snapping.snap(outlines, MERGE_DISTANCE, SNAP_DISTANCE)
+    edges, city_of_cell = labelled_edges(outlines, split_table)
+
+    def claims(labels):
+        owners = set()
+        for code, part in labels:
+            if part == 'unit' and code not in split_table:
+                owners.add(city_of[code])
+            elif part != 'unit' and (code, 'unit') in labels:
+                owners.add(city_of_cell[code, part])
+        return {TAIWAN} if TAIWAN in owners else owners
+
+    edges = coverage.node(edges)
+    mouths = coverage.bridges(coverage.Coverage(edges), claims, INLET_WIDTH, INLET_LENGTH)
+    for a, b in mouths:
+        edge = (min(a, b), max(a, b))
+        edges[edge] = edges.get(edge, frozenset()) | {coverage.BRIDGE}
+    faces = coverage.Coverage(coverage.node(edges))
+    final = coverage.settle(faces, claims, SPECK)
+    lines = arcs.arcs_of(arcs.borders(faces, final))
+    thinned = arcs.simplify_arcs(lines, SIMPLIFY_TOLERANCE)
+    report = '%d inlets closed, %d arcs, %d points thinned to %d' % (
+        len(mouths), len(lines), sum(len(line[0]) for line in lines),
+        sum(len(line[0]) for line in thinned))
+    return arcs.rings_of(thinned), report
+
+
+def labelled_edges(outlines, split_table):
+    """{edge: labels} of all outlines, and {label: city code} of the cells of the units to be split.
+
+    A unit's outline has the label (package code, 'unit'), the cell of its town number n the label
+    (package code, n).
+    """
     edges = {}
+    city_of_cell = {}
 
     def add(label, ring):
         for i in range(len(ring)):
@@ -123,7 +156,6 @@ def cover(outlines, city_of, split_table):
                 edge = (min(a, b), max(a, b))
                 edges[edge] = edges.get(edge, frozenset()) ^ {label}
 
-    city_of_cell = {}
     for code, rings in outlines:
         for ring in rings:
             add((code, 'unit'), ring)
@@ -132,38 +164,15 @@ def cover(outlines, city_of, split_table):
             for number, cell in enumerate(cells(towns, rings)):
                 city_of_cell[code, number] = split_table[code][number][1]
                 add((code, number), cell)
-    def claims(labels):
-        owners = set()
-        for code, part in labels:
-            if part != 'unit':
-                continue
-            if code in split_table:
-                owners |= {city_of_cell[label] for label in labels
-                           if label[0] == code and label[1] != 'unit'}
-            else:
-                owners.add(city_of[code])
-        return {TAIWAN} if TAIWAN in owners else owners
-
-    edges = topology.node(edges)
-    mouths = topology.bridges(topology.Coverage(edges), claims, INLET_WIDTH, INLET_LENGTH)
-    for a, b in mouths:
-        edge = (min(a, b), max(a, b))
-        edges[edge] = edges.get(edge, frozenset()) | {topology.BRIDGE}
-    coverage = topology.Coverage(topology.node(edges))
-    final = topology.settle(coverage, claims, SPECK)
-    arcs = topology.arcs_of(topology.borders(coverage, final))
-    thinned = topology.simplify_arcs(arcs, SIMPLIFY_TOLERANCE)
-    report = '%d inlets closed, %d arcs, %d points thinned to %d' % (
-        len(mouths), len(arcs), sum(len(arc[0]) for arc in arcs), sum(len(arc[0]) for arc in thinned))
-    return topology.rings_of(thinned), report
+    return edges, city_of_cell
 
 
 def centre_of(city, rings):
     """The seat as (lat, lng) when it lies inside the rings, else a point inside them."""
     lat, lng = city.seat
-    if topology.contains(rings, lng * UNITS_PER_DEGREE, lat * UNITS_PER_DEGREE):
+    if geometry.contains(rings, lng * UNITS_PER_DEGREE, lat * UNITS_PER_DEGREE):
         return lat, lng, True
-    x, y = topology.inner_point(rings)
+    x, y = geometry.inner_point(rings)
     return y / UNITS_PER_DEGREE, x / UNITS_PER_DEGREE, False
 
 
@@ -178,9 +187,9 @@ def make(source):
     for province in provinces:
         own = [ring for city in province.cities for ring in boundaries[city.code]]
         lng, lat = country[province.code][0]
-        if not topology.contains(own, lng * UNITS_PER_DEGREE, lat * UNITS_PER_DEGREE):
+        if not geometry.contains(own, lng * UNITS_PER_DEGREE, lat * UNITS_PER_DEGREE):
             moved.append(province.latin)
-            x, y = topology.inner_point(own)
+            x, y = geometry.inner_point(own)
             lng, lat = x / UNITS_PER_DEGREE, y / UNITS_PER_DEGREE
         lines.append('\nprovince\t%s0000\t%s\t%s\t%s\t%.4f\t%.4f\n' % (
             province.code, province.letter, province.latin, province.chinese, lat, lng))
@@ -199,7 +208,7 @@ def make(source):
 
 
 def ring_text(ring):
-    """A ring's lines: the word, then its points lng,lat, eight a line; the first is not repeated."""
+    """A ring's lines: the word, then its points lng,lat, eight a line; none is repeated."""
     points = ['%.4f,%.4f' % (x / UNITS_PER_DEGREE, y / UNITS_PER_DEGREE) for x, y in ring[:-1]]
     lines = ['ring\n']
     for start in range(0, len(points), 8):

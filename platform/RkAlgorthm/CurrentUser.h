@@ -15,6 +15,6 @@ struct SRkUserInfo
     QString strUserName;
 };
 
-/// The current user. Unless the host has set one, the id is the one in the settings (see UserInfoUserID)
-/// and the rest is empty.
+/// The current user. Unless the host has set one, the id is the one in the settings (see
+/// UserInfoUserID) and the rest is empty.
 RKALGORTHM_EXPORT SRkUserInfo GetCurUserInfo();

@@ -13,10 +13,14 @@ CRkVector3D GetLatLngGravityByLatLng(const std::vector<CRkVector3D>& points)
         return CRkVector3D();
 
     const CRkVector3D& origin = points.front();
-    const auto isOrigin = [&](const CRkVector3D& p) { return p.x() == origin.x() && p.y() == origin.y(); };
-    const std::size_t count = points.size() > 1 && isOrigin(points.back()) ? points.size() - 1 : points.size();
+    const auto isOrigin = [&](const CRkVector3D& p) {
+        return p.x() == origin.x() && p.y() == origin.y();
+    };
+    const std::size_t count =
+        points.size() > 1 && isOrigin(points.back()) ? points.size() - 1 : points.size();
 
-    // Coordinates are taken from the first vertex on: far from (0, 0) the products would cancel out.
+    // Coordinates are taken from the first vertex on: far from (0, 0) the products would cancel
+    // out.
     double doubleArea = 0;
     double momentX = 0;
     double momentY = 0;
@@ -40,8 +44,10 @@ CRkVector3D GetLatLngGravityByLatLng(const std::vector<CRkVector3D>& points)
 
     // What the rounding of the coordinates alone can make out of a ring without area.
     const double magnitude = std::max(std::abs(origin.x()), std::abs(origin.y())) + extent;
-    const double noise = 4 * double(count) * std::numeric_limits<double>::epsilon() * extent * magnitude;
+    const double noise =
+        4 * double(count) * std::numeric_limits<double>::epsilon() * extent * magnitude;
     if (std::abs(doubleArea) <= noise)
         return CRkVector3D(origin.x() + sumX / double(count), origin.y() + sumY / double(count), 0);
-    return CRkVector3D(origin.x() + momentX / (3 * doubleArea), origin.y() + momentY / (3 * doubleArea), 0);
+    return CRkVector3D(origin.x() + momentX / (3 * doubleArea),
+                       origin.y() + momentY / (3 * doubleArea), 0);
 }

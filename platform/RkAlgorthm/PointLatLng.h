@@ -3,7 +3,8 @@
 
 #pragma once
 
-/// A place on the ground: latitude and longitude in degrees, WGS84. Any values are kept as they are.
+/// A place on the ground: latitude and longitude in degrees, WGS84. Any values are kept as they
+/// are.
 ///
 ///     PointLatLng chengdu(30.67, 104.06);
 ///     chengdu.SetLat(30.66);

@@ -8,10 +8,11 @@
 
 #include <QByteArray>
 
-// What a host's settings page or a test adjusts in this implementation. A value set here wins over the
-// environment, and that over the default. Not thread-safe: call from the GUI thread.
+// What a host's settings page or a test adjusts in this implementation. A value set here wins over
+// the environment, and that over the default. Not thread-safe: call from the GUI thread.
 
-/// Base address of the web service; trailing slashes are dropped. An empty address takes the value back.
+/// Base address of the web service; trailing slashes are dropped. An empty address takes the value
+/// back.
 RKALGORTHM_EXPORT void SetServerIP(const QByteArray& address);
 
 /// The current user, until the process ends. The settings are not written.

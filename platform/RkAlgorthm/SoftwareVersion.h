@@ -7,6 +7,6 @@
 
 #include <QString>
 
-/// Whether a project written by that version of the application holds its coordinates in the old datum:
-/// true below 1.0.0. A text that begins with no number, an empty one included, is not old.
+/// Whether a project written by that version of the application holds its coordinates in the old
+/// datum: true below 1.0.0. A text that begins with no number, an empty one included, is not old.
 RKALGORTHM_EXPORT bool SoftwareVersionIsOld(const QString& version);

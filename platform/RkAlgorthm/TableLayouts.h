@@ -7,14 +7,15 @@
 
 #include <QString>
 
-// The columns of each table, in parentheses, as they follow the table's name in CREATE TABLE. All ids are
-// text. No column is a key or unique, because a copied project gives many rows one id, and every column
-// may stay empty.
+// The columns of each table, in parentheses, as they follow the table's name in CREATE TABLE. All
+// ids are text. No column is a key or unique, because a copied project gives many rows one id, and
+// every column may stay empty.
 
 /// One row that describes the project.
 RKALGORTHM_EXPORT QString GetProjectTableContents();
 
-/// Survey areas (blocks); `project_id` is the project's `id`. Outlines are written "lat,lng;lat,lng".
+/// Survey areas (blocks); `project_id` is the project's `id`. Outlines are written
+/// "lat,lng;lat,lng".
 RKALGORTHM_EXPORT QString GetSurveyAreaTableContents();
 
 /// Flight tasks; `survey_block_id` is the `survey_area_guid` of their area.

@@ -16,10 +16,10 @@ RKALGORTHM_EXPORT ECameraType GetCameraTypeByString(const QString& name);
 /// The type of that name; PlaneTypeUnknown for any other text.
 RKALGORTHM_EXPORT EPlaneType GetPlaneTypeByString(const QString& name);
 
-/// The name of a type; for a type that this version does not know "Camera " and its number. Empty for
-/// types below 1.
+/// The name of a type; for a type that this version does not know "Camera " and its number. Empty
+/// for types below 1.
 RKALGORTHM_EXPORT QString GetCameraStringByType(ECameraType type);
 
-/// The name of a type; for a type that this version does not know "Aircraft " and its number. Empty for
-/// types below 1.
+/// The name of a type; for a type that this version does not know "Aircraft " and its number. Empty
+/// for types below 1.
 RKALGORTHM_EXPORT QString GetPlaneStringByType(EPlaneType type);

@@ -77,19 +77,20 @@ void CRkBlock::SetBlockID(const QString& id)
     m_blockId = id;
 }
 
-bool CRkBlock::Load(const QString& tableName, const QString& projectId, const QString& softwareVersion,
-                    CRkDataBase* database)
+bool CRkBlock::Load(const QString& tableName, const QString& projectId,
+                    const QString& softwareVersion, CRkDataBase* database)
 {
     if (!database)
         return false;
-    QSqlQuery area = database->exec("select * from " + tableName + " where project_id=" + quoted(projectId)
-                                    + " and survey_area_guid=" + quoted(m_blockId));
+    QSqlQuery area =
+        database->exec("select * from " + tableName + " where project_id=" + quoted(projectId)
+                       + " and survey_area_guid=" + quoted(m_blockId));
     if (!area.next())
         return false;
 
     m_type = blockType(valueOf(area, QStringLiteral("block_type")).toInt());
-    QList<QPointF> outline
-        = parseOutline(valueOf(area, QStringLiteral("survey_area_coordinate_points")).toString());
+    QList<QPointF> outline =
+        parseOutline(valueOf(area, QStringLiteral("survey_area_coordinate_points")).toString());
     if (SoftwareVersionIsOld(softwareVersion))
         takeToWgs84(outline);
     SetAnchor(outline);

@@ -34,16 +34,16 @@ public:
     QString GetBlockID() const;
     void SetBlockID(const QString& id);
 
-    /// Reads the first row of the table that belongs to the project and bears the block's id, and the
-    /// block's tasks. `softwareVersion` is that of the project: outlines of an old one are taken to
-    /// WGS84. Pieces of the outline that are no pair of numbers are left out; a missing column leaves
-    /// its value empty. False, with the block as it was, when there is no such row. The caller keeps a
-    /// block that failed to load, and always the database.
+    /// Reads the first row of the table that belongs to the project and bears the block's id, and
+    /// the block's tasks. `softwareVersion` is that of the project: outlines of an old one are
+    /// taken to WGS84. Pieces of the outline that are no pair of numbers are left out; a missing
+    /// column leaves its value empty. False, with the block as it was, when there is no such row.
+    /// The caller keeps a block that failed to load, and always the database.
     bool Load(const QString& tableName, const QString& projectId, const QString& softwareVersion,
               CRkDataBase* database);
 
-    /// The tasks in the order of their table. They belong to the block and go with it or with the next
-    /// Load.
+    /// The tasks in the order of their table. They belong to the block and go with it or with the
+    /// next Load.
     QList<CRkTask*> GetMissionList() const;
     /// Appends a task; null is ignored.
     void AddTask(std::unique_ptr<CRkTask> task);
@@ -51,8 +51,8 @@ public:
     /// The centroid of the outline, see GetLatLngGravityByLatLng; (0, 0) without one.
     PointLatLng GetGravityPoint() const;
 
-    /// The outline: x latitude, y longitude in degrees. An area's ring is open, so its first point is not
-    /// repeated at the end; a strip's outline is its centre line.
+    /// The outline: x latitude, y longitude in degrees. An area's ring is open, so its first point
+    /// is not repeated at the end; a strip's outline is its centre line.
     QList<QPointF> GetAnchor() const;
     void SetAnchor(const QList<QPointF>& outline);
 

@@ -25,8 +25,8 @@ public:
     /// The block of that id, which stays with the manager; null when there is none.
     CRkBlock* GetBlock(const QString& id) const;
 
-    /// Takes ownership of the block, whose id must not change from here on. Another block of that id is
-    /// freed; null and a block that is here already are ignored.
+    /// Takes ownership of the block, whose id must not change from here on. Another block of that
+    /// id is freed; null and a block that is here already are ignored.
     void AddBlock(CRkBlock* block);
 
 private:

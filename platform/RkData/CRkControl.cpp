@@ -38,19 +38,21 @@ Offset gcj02Offset(double lat, double lng)
 
     const double ripple = 20.0 * std::sin(6.0 * x * pi) + 20.0 * std::sin(2.0 * x * pi);
     const double north = -100.0 + 2.0 * x + 3.0 * y + 0.2 * y * y + 0.1 * x * y
-                         + 0.2 * std::sqrt(std::abs(x))
-                         + (ripple + 20.0 * std::sin(y * pi) + 40.0 * std::sin(y / 3.0 * pi)
-                            + 160.0 * std::sin(y / 12.0 * pi) + 320.0 * std::sin(y * pi / 30.0))
-                               * 2.0 / 3.0;
-    const double east = 300.0 + x + 2.0 * y + 0.1 * x * x + 0.1 * x * y + 0.1 * std::sqrt(std::abs(x))
-                        + (ripple + 20.0 * std::sin(x * pi) + 40.0 * std::sin(x / 3.0 * pi)
-                           + 150.0 * std::sin(x / 12.0 * pi) + 300.0 * std::sin(x / 30.0 * pi))
-                              * 2.0 / 3.0;
+        + 0.2 * std::sqrt(std::abs(x))
+        + (ripple + 20.0 * std::sin(y * pi) + 40.0 * std::sin(y / 3.0 * pi)
+           + 160.0 * std::sin(y / 12.0 * pi) + 320.0 * std::sin(y * pi / 30.0))
+            * 2.0 / 3.0;
+    const double east = 300.0 + x + 2.0 * y + 0.1 * x * x + 0.1 * x * y
+        + 0.1 * std::sqrt(std::abs(x))
+        + (ripple + 20.0 * std::sin(x * pi) + 40.0 * std::sin(x / 3.0 * pi)
+           + 150.0 * std::sin(x / 12.0 * pi) + 300.0 * std::sin(x / 30.0 * pi))
+            * 2.0 / 3.0;
 
     const double latRadians = lat / 180.0 * pi;
-    const double flattening = 1.0 - eccentricitySquared * std::sin(latRadians) * std::sin(latRadians);
-    const double meridianRadius
-        = semiMajorAxis * (1.0 - eccentricitySquared) / (flattening * std::sqrt(flattening));
+    const double flattening =
+        1.0 - eccentricitySquared * std::sin(latRadians) * std::sin(latRadians);
+    const double meridianRadius =
+        semiMajorAxis * (1.0 - eccentricitySquared) / (flattening * std::sqrt(flattening));
     const double parallelRadius = semiMajorAxis / std::sqrt(flattening) * std::cos(latRadians);
     return {north * 180.0 / (meridianRadius * pi), east * 180.0 / (parallelRadius * pi)};
 }
@@ -75,7 +77,7 @@ QString CRkControl::GetProjectDirPath()
         path = qEnvironmentVariable("RK_PROJECT_DIR");
     if (path.isEmpty()) {
         path = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)
-               + QLatin1String("/RkProjects");
+            + QStringLiteral("/RkProjects");
     }
     path = QDir::fromNativeSeparators(path);
     return path.endsWith(QLatin1Char('/')) ? path : path + QLatin1Char('/');
@@ -85,7 +87,7 @@ QString CRkControl::GetFlightMissionFilePath(const QString& projectFile)
 {
     const QString path = QDir::fromNativeSeparators(projectFile);
     return path.left(path.lastIndexOf(QLatin1Char('/')) + 1) + QFileInfo(path).completeBaseName()
-           + QLatin1String("_flight.db");
+        + QStringLiteral("_flight.db");
 }
 
 void CRkControl::ResetToWGS84(double lat, double lng, double* outLat, double* outLng)
@@ -94,8 +96,8 @@ void CRkControl::ResetToWGS84(double lat, double lng, double* outLat, double* ou
     *outLng = lng;
     if (!hasGcj02Offset(lat, lng))
         return;
-    // The offset changes by less than a fiftieth of the way between two positions, so each step wins more
-    // than one digit.
+    // The offset changes by less than a fiftieth of the way between two positions, so each step
+    // wins more than one digit.
     constexpr int steps = 10;
     for (int i = 0; i < steps; ++i) {
         const Offset offset = gcj02Offset(*outLat, *outLng);

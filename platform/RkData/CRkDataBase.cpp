@@ -9,7 +9,7 @@ namespace {
 
 QString nextConnectionName()
 {
-    static std::atomic<quint64> count {0};
+    static std::atomic<quint64> count{0};
     return QStringLiteral("CRkDataBase-") + QString::number(++count);
 }
 
@@ -45,8 +45,10 @@ bool CRkDataBase::open()
 
 QSqlQuery CRkDataBase::exec(const QString& sql)
 {
-    if (sql.isEmpty() || !m_connection.isOpen())
-        return QSqlQuery(static_cast<QSqlResult*>(nullptr)); // Of no connection, not even the default one.
+    if (sql.isEmpty() || !m_connection.isOpen()) {
+        QSqlResult* const nothing = nullptr;
+        return QSqlQuery(nothing); // Without it, the query would belong to the default connection.
+    }
     QSqlQuery query(m_connection);
     query.setForwardOnly(true);
     query.exec(sql);
@@ -58,7 +60,7 @@ void CRkDataBase::close()
     if (!m_connection.isValid())
         return;
     const QString name = m_connection.connectionName();
-    // Closing finalises the statements of queries that still live, so that none keeps the file open.
+    // Closing ends the statements of queries that still live, so that none keeps the file open.
     m_connection.close();
     m_connection = QSqlDatabase();
     QSqlDatabase::removeDatabase(name);

@@ -9,8 +9,8 @@
 #include <QSqlQuery>
 #include <QString>
 
-/// One SQLite file. The file may come from anywhere: its schema is not trusted, and nothing it holds makes
-/// a call print, throw or wait long. An object stays on the thread that opened it.
+/// One SQLite file. The file may come from anywhere: its schema is not trusted, and nothing it
+/// holds makes a call print, throw or wait long. An object stays on the thread that opened it.
 ///
 ///     CRkDataBase database(file);
 ///     if (database.open()) {
@@ -28,18 +28,18 @@ public:
     ~CRkDataBase();
     Q_DISABLE_COPY(CRkDataBase)
 
-    /// Opens the file; a missing one is made, empty, where its folder exists. False when the file cannot
-    /// be opened. What the file holds is not looked at before the first statement. Opening again an open
-    /// object does nothing.
+    /// Opens the file; a missing one is made, empty, where its folder exists. False when the file
+    /// cannot be opened. What the file holds is not looked at before the first statement. Opening
+    /// again an open object does nothing.
     bool open();
 
     /// Runs one statement and returns its query, forward only and before the first row. When the
-    /// statement fails, is empty or holds more than one, or the object is not open, the query's next()
-    /// is false.
+    /// statement fails, is empty or holds more than one, or the object is not open, the query's
+    /// next() is false.
     QSqlQuery exec(const QString& sql);
 
-    /// Releases the file at once. Queries of the object that still live give no more rows, less the first
-    /// one if it has not been asked for yet, and must be asked for nothing else.
+    /// Releases the file at once. Queries of the object that still live give no more rows, less the
+    /// first one if it has not been asked for yet, and must be asked for nothing else.
     void close();
 
 private:

@@ -5,8 +5,8 @@
 
 #include <RkProjectDbOperator/RkProjectDbOperatorExport.h>
 
-// What a host's settings page or a test adjusts in this implementation. Not thread-safe: call from the
-// GUI thread.
+// What a host's settings page or a test adjusts in this implementation. Not thread-safe: call from
+// the GUI thread.
 
 /// How long an upload may stand still before it fails, in milliseconds; for the posts from here on.
 /// One minute at first. 0 or less waits without limit.

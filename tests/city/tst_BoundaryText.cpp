@@ -48,6 +48,11 @@ const QStringList hostileFields = {
     "\u0661\u0662", "\uff11\uff12", "1\u00a05", "\u00a01.5\u3000", "\u22121", "1,5", "%1", "'", "\"1\"",
     "abc", "1d", "1f", "0b1", "1L", "\u4eac"};
 
+QPolygonF polygonOf(const QVector<QPointF>& points)
+{
+    return QPolygonF(points);
+}
+
 QString repeated(const QString& text, int times)
 {
     return text.repeated(times);
@@ -75,8 +80,8 @@ void tst_BoundaryText::readsPoints_data()
     QTest::addColumn<QString>("text");
     QTest::addColumn<QPolygonF>("expected");
 
-    const QPolygonF triangle = QPolygonF() << QPointF(39.9, 116.3) << QPointF(39.9, 116.5) << QPointF(40.1, 116.5);
-    const QPolygonF point = QPolygonF() << QPointF(39.9, 116.3);
+    const QPolygonF triangle = polygonOf({{39.9, 116.3}, {39.9, 116.5}, {40.1, 116.5}});
+    const QPolygonF point = polygonOf({{39.9, 116.3}});
     QTest::newRow("latitude becomes x") << "116.3,39.9;116.5,39.9;116.5,40.1" << triangle;
     QTest::newRow("empty") << "" << QPolygonF();
     QTest::newRow("separators alone") << ";,;;,,;" << QPolygonF();
@@ -88,8 +93,8 @@ void tst_BoundaryText::readsPoints_data()
     QTest::newRow("blanks around numbers") << " 116.3 , 39.9 ;116.5,39.9; 116.5,40.1 " << triangle;
     QTest::newRow("blank field is a bad number") << "116.3, ,39.9;116.3,39.9" << point;
     QTest::newRow("blank point") << " ;116.3,39.9" << point;
-    QTest::newRow("exponents and signs") << "+1.163e2,-399e-1" << (QPolygonF() << QPointF(-39.9, 116.3));
-    QTest::newRow("repeated points kept") << "1,2;1,2" << (QPolygonF() << QPointF(2, 1) << QPointF(2, 1));
+    QTest::newRow("exponents and signs") << "+1.163e2,-399e-1" << polygonOf({{-39.9, 116.3}});
+    QTest::newRow("repeated points kept") << "1,2;1,2" << polygonOf({{2, 1}, {2, 1}});
 }
 
 void tst_BoundaryText::readsPoints()
@@ -148,7 +153,7 @@ void tst_BoundaryText::readsRandomNumbersExactly()
     for (int round = 0; round < 200000; ++round) {
         const QString number
             = QString::number(random.generate64() % 2000000000000000ULL).insert(random.bounded(1, 4), '.');
-        const QPolygonF expected = QPolygonF() << QPointF(-number.toDouble(), number.toDouble());
+        const QPolygonF expected = polygonOf({{-number.toDouble(), number.toDouble()}});
         QVERIFY2(sameBits(parseBoundary(QString(number + ",-" + number)), expected), qPrintable(number));
     }
 }

@@ -86,8 +86,8 @@ class Parsing(unittest.TestCase):
             'ring of one place': (changed('115.0,38.0 115.0,39.0', '114.0,38.0 114.0,38.0'),
                                   'line 11: a ring of fewer'),
             'city without ring': (SAMPLE[:SAMPLE.rindex('ring')], 'line 11: a city without a ring'),
-            'points without ring': (changed('ring\n  116', '  116'), 'line 5: points without a ring'),
-            'ring of a province': (changed('\t116.4\n', '\t116.4\nring\n'), 'line 4: a ring without'),
+            'points without ring': (changed('ring\n  116', '  116'), 'line 5: points without'),
+            'ring of a province': (changed('\t116.4\n', '\t116.4\nring\n'), 'line 4: a ring'),
             'city first': (SAMPLE[SAMPLE.index('city'):], 'line 1: a city before'),
         }
         for name, (text, message) in cases.items():

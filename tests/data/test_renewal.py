@@ -14,11 +14,11 @@ DATA = Path(__file__).resolve().parents[2] / 'data'
 sys.path.insert(0, str(DATA))
 
 import build_catalogue  # noqa: E402
-from renewal import catalogue, datum, tables, topology  # noqa: E402
+from renewal import arcs, catalogue, coverage, datum, geometry, snapping, tables  # noqa: E402
 
 
 def edges_of(outlines):
-    """{edge: labels} as topology.node takes them, the owner of a ring as its label."""
+    """{edge: labels} as coverage.node takes them, the owner of a ring as its label."""
     edges = {}
     for owner, rings in outlines:
         for ring in rings:
@@ -30,17 +30,17 @@ def edges_of(outlines):
 
 def coverage_of(outlines, tolerance=0, speck=0):
     """{owner: closed rings} after all steps but the pulling together."""
-    coverage = topology.Coverage(topology.node(edges_of(outlines)))
-    final = topology.settle(coverage, set, speck)
-    arcs = topology.arcs_of(topology.borders(coverage, final))
+    faces = coverage.Coverage(coverage.node(edges_of(outlines)))
+    final = coverage.settle(faces, set, speck)
+    lines = arcs.arcs_of(arcs.borders(faces, final))
     if tolerance:
-        arcs = topology.simplify_arcs(arcs, tolerance)
-    return topology.rings_of(arcs)
+        lines = arcs.simplify_arcs(lines, tolerance)
+    return arcs.rings_of(lines)
 
 
 def area(rings):
     """The area of nested rings as they are oriented: outer ones count, holes take away."""
-    return sum(topology.area2(ring) for ring in rings) / 2
+    return sum(geometry.area2(ring) for ring in rings) / 2
 
 
 def directed_edges(rings):
@@ -70,7 +70,7 @@ class Snapping(unittest.TestCase):
     def test_borders_drawn_twice_come_together(self):
         left = [(0, 0), (1000, 0), (1010, 500), (1000, 1000), (0, 1000)]
         right = [(1004, 0), (2000, 0), (2000, 1000), (1003, 1000)]
-        snapped = dict(topology.snap([('left', [left]), ('right', [right])], 25, 60))
+        snapped = dict(snapping.snap([('left', [left]), ('right', [right])], 25, 60))
         rings = coverage_of(list(snapped.items()))
         self.assertEqual(sorted(rings), ['left', 'right'])
         left_edges, right_edges = directed_edges(rings['left']), directed_edges(rings['right'])
@@ -79,7 +79,7 @@ class Snapping(unittest.TestCase):
     def test_a_unit_keeps_its_own_detail(self):
         ring = [(0, 0), (20, 0), (20, 20), (40, 20), (40, 0), (1000, 0), (1000, 1000), (0, 1000)]
         self.assertEqual([set(map(tuple, rings[0])) for _, rings in
-                          topology.snap([('one', [ring])], 25, 60)], [set(ring)])
+                          snapping.snap([('one', [ring])], 25, 60)], [set(ring)])
 
 
 class Fitting(unittest.TestCase):
@@ -131,18 +131,47 @@ class Fitting(unittest.TestCase):
         for _ in range(4000):
             # Between two outer squares a gap may open to the outside, so look at the inner ones.
             x, y = source.uniform(1050, 4950), source.uniform(1050, 4950)
-            owners = [owner for owner, own in rings.items() if topology.contains(own, x, y)]
+            owners = [owner for owner, own in rings.items() if geometry.contains(own, x, y)]
             self.assertEqual(len(owners), 1, (x, y, owners))
 
     def test_segments_meet_in_ends_only_afterwards(self):
         source = random.Random(3)
         triangle = [(source.randint(0, 300), source.randint(0, 300)) for _ in range(60)]
         outlines = [(str(i), [triangle[i:i + 3]]) for i in range(0, 60, 3)]
-        pieces = list(topology.node(edges_of(outlines)))
+        pieces = list(coverage.node(edges_of(outlines)))
         self.assertGreater(len(pieces), 100)
         for i, first in enumerate(pieces):
             for second in pieces[:i]:
-                self.assertFalse(topology.meeting(*first, *second), (first, second))
+                self.assertFalse(geometry.meeting(*first, *second), (first, second))
+
+
+class Inlets(unittest.TestCase):
+
+    WEST = [(0, 0), (1000, 0), (1000, 100), (990, 1000), (0, 1000)]
+    EAST = [(1000, 0), (2000, 0), (2000, 1000), (1010, 1000), (1000, 100)]
+
+    def bridges(self, width, reach):
+        edges = edges_of([('w', [self.WEST]), ('e', [self.EAST])])
+        return coverage.bridges(coverage.Coverage(coverage.node(edges)), set, width, reach)
+
+    def test_the_mouth_is_bridged_once(self):
+        found = self.bridges(30, 5000)
+        self.assertEqual(len(found), 1)
+        self.assertEqual({point[1] for point in found[0]}, {1000})
+
+    def test_wide_or_long_inlets_stay_open(self):
+        self.assertEqual(self.bridges(15, 5000), [])
+        self.assertEqual(self.bridges(30, 1000), [])
+
+    def test_a_bridged_inlet_is_filled(self):
+        edges = edges_of([('w', [self.WEST]), ('e', [self.EAST])])
+        (a, b), = self.bridges(30, 5000)
+        edges[min(a, b), max(a, b)] = frozenset({coverage.BRIDGE})
+        faces = coverage.Coverage(coverage.node(edges))
+        final = coverage.settle(faces, set, 0)
+        rings = arcs.rings_of(arcs.arcs_of(arcs.borders(faces, final)))
+        self.assertEqual(sorted(rings), ['e', 'w'])
+        self.assertEqual(area(rings['w']) + area(rings['e']), 2000000)
 
 
 class Thinning(unittest.TestCase):
@@ -162,16 +191,16 @@ class Thinning(unittest.TestCase):
     def test_no_dropped_point_is_farther_than_the_tolerance(self):
         source = random.Random(9)
         line = [(x, source.randint(-30, 30)) for x in range(0, 1000, 10)]
-        thinned = topology.thin(line, 15, 1.0)
+        thinned = arcs.thin(line, 15, 1.0)
         self.assertLess(len(thinned), len(line))
         self.assertEqual((thinned[0], thinned[-1]), (line[0], line[-1]))
         for point in line:
-            self.assertLessEqual(min(topology.foot(point, a, b)[1]
+            self.assertLessEqual(min(geometry.foot(point, a, b)[1]
                                      for a, b in zip(thinned, thinned[1:])), 15)
 
     def test_a_small_ring_stays_a_ring(self):
         ring = [(0, 0), (5, 0), (5, 5), (0, 5), (0, 0)]
-        thinned = topology.thin(ring, 100, 1.0)
+        thinned = arcs.thin(ring, 100, 1.0)
         self.assertGreaterEqual(len(set(thinned)), 3)
         self.assertEqual(thinned[0], thinned[-1])
 
@@ -180,9 +209,9 @@ class Thinning(unittest.TestCase):
         bulge = ([(0, 0), (50, 10), (100, 0)], 'a', None)
         tip = ([(40, 20), (50, 5), (60, 20)], 'b', None)
         tip_below = ([(40, -20), (50, 5), (60, -20)], 'b', None)
-        self.assertEqual(topology.simplify_arcs([bulge], 12)[0][0], [(0, 0), (100, 0)])
-        self.assertEqual(topology.simplify_arcs([bulge, tip_below], 12)[0][0], bulge[0])
-        crossing = topology.crossing_arcs([bulge[0], tip[0]])
+        self.assertEqual(arcs.simplify_arcs([bulge], 12)[0][0], [(0, 0), (100, 0)])
+        self.assertEqual(arcs.simplify_arcs([bulge, tip_below], 12)[0][0], bulge[0])
+        crossing = arcs.crossing_arcs([bulge[0], tip[0]])
         self.assertEqual(crossing, {0, 1})
 
 
@@ -196,7 +225,7 @@ class Splitting(unittest.TestCase):
             point = (source.uniform(0, 1000), source.uniform(0, 1000))
             distances = sorted((math.dist(point, town), i) for i, town in enumerate(towns))
             if distances[1][0] - distances[0][0] > 3:
-                inside = [i for i, cell in enumerate(cells) if topology.contains([cell], *point)]
+                inside = [i for i, cell in enumerate(cells) if geometry.contains([cell], *point)]
                 self.assertEqual(inside, [distances[0][1]])
 
 
@@ -239,7 +268,7 @@ class Text(unittest.TestCase):
                 self.assertNotEqual(first, second, edge)
 
     def test_edges_meet_in_ends_only(self):
-        self.assertEqual(topology.crossing_arcs([list(edge) for edge in self.sides]), set())
+        self.assertEqual(arcs.crossing_arcs([list(edge) for edge in self.sides]), set())
 
     def test_most_edges_are_shared(self):
         shared = sum(len(sides) == 2 for sides in self.sides.values())
@@ -264,7 +293,7 @@ class Text(unittest.TestCase):
                 here = following
                 if here == start:
                     break
-            areas.append(topology.area2(ring) / 2)
+            areas.append(geometry.area2(ring) / 2)
         self.assertEqual([a for a in areas if a < 0], [])
         self.assertGreater(max(areas), 0.99 * sum(areas))
 

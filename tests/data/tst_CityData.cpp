@@ -363,6 +363,9 @@ void tst_CityData::knownPlaces_data()
     knownPlace("Victoria Peak", 22.271, 114.150, "Hong Kong SAR 香港特别行政区");
     knownPlace("Ruins of Saint Paul's", 22.1976, 113.5410, "Macao SAR 澳门特别行政区");
     knownPlace("Taipei 101", 25.034, 121.565, "Taiwan Province 台湾省");
+    // So close to a border that boundaries left in GCJ-02 would miss them.
+    knownPlace("Lok Ma Chau Station", 22.5147, 114.0655, "Hong Kong SAR 香港特别行政区");
+    knownPlace("Lin Fung Temple", 22.2120, 113.5468, "Macao SAR 澳门特别行政区");
 }
 
 void tst_CityData::knownPlaces()
@@ -428,7 +431,7 @@ void tst_CityData::noPointLiesInTwoCities()
         QVERIFY2(found.size() <= 1,
                  qPrintable(QStringLiteral("%1,%2").arg(point.x()).arg(point.y())));
     }
-    // The country fills about half of the box; without this the test could pass on empty boundaries.
+    // The country fills about half of the box; empty boundaries would pass without this.
     QVERIFY2(inside > 100000, qPrintable(QString::number(inside)));
 }
 

@@ -19,14 +19,14 @@ namespace {
 QString insertArea(const QString& project, const QString& guid, int type, const QString& outline)
 {
     return "INSERT INTO " + SurveyAreaTableName
-           + " (project_id, survey_area_guid, block_type, survey_area_coordinate_points) VALUES "
-           + QStringLiteral("('%1','%2',%3,'%4')").arg(project, guid).arg(type).arg(outline);
+        + " (project_id, survey_area_guid, block_type, survey_area_coordinate_points) VALUES "
+        + QStringLiteral("('%1','%2',%3,'%4')").arg(project, guid).arg(type).arg(outline);
 }
 
 QString insertTask(const QString& block, const QString& guid)
 {
     return "INSERT INTO " + MissionTableName + " (survey_block_id, flight_task_guid) VALUES "
-           + QStringLiteral("('%1','%2')").arg(block, guid);
+        + QStringLiteral("('%1','%2')").arg(block, guid);
 }
 
 QStringList taskIds(const CRkBlock& block)
@@ -66,7 +66,8 @@ private slots:
     void tasksKeepTheirFlightCount();
 
 private:
-    bool loadFrom(CRkBlock& block, const QString& guid, const QString& project = QStringLiteral("p"),
+    bool loadFrom(CRkBlock& block, const QString& guid,
+                  const QString& project = QStringLiteral("p"),
                   const QString& version = QStringLiteral("1.0.0")) const;
 
     std::unique_ptr<QTemporaryDir> m_dir;
@@ -78,11 +79,12 @@ void tst_CRkBlock::init()
     m_dir = std::make_unique<QTemporaryDir>();
     QVERIFY(m_dir->isValid());
     m_file = m_dir->filePath("p.proj");
-    QVERIFY(runSql(m_file, {"CREATE TABLE " + SurveyAreaTableName + " " + GetSurveyAreaTableContents(),
-                            "CREATE TABLE " + MissionTableName + " " + GetMissionTableContents(),
-                            insertArea("p", "a", BlockTypeArea, "30,104;30,106;32,106;32,104"),
-                            insertArea("p", "b", BlockTypeStrip, "30,104;31,105"), insertTask("a", "t1"),
-                            insertTask("b", "t2"), insertTask("a", "t3")}));
+    QVERIFY(runSql(m_file,
+                   {"CREATE TABLE " + SurveyAreaTableName + " " + GetSurveyAreaTableContents(),
+                    "CREATE TABLE " + MissionTableName + " " + GetMissionTableContents(),
+                    insertArea("p", "a", BlockTypeArea, "30,104;30,106;32,106;32,104"),
+                    insertArea("p", "b", BlockTypeStrip, "30,104;31,105"), insertTask("a", "t1"),
+                    insertTask("b", "t2"), insertTask("a", "t3")}));
 }
 
 bool tst_CRkBlock::loadFrom(CRkBlock& block, const QString& guid, const QString& project,
@@ -135,8 +137,9 @@ void tst_CRkBlock::load()
 void tst_CRkBlock::firstRowCounts()
 {
     // The blocks of a copied project all bear one identifier.
-    QVERIFY(runSql(m_file, {"UPDATE " + SurveyAreaTableName + " SET survey_area_guid='s'",
-                            "UPDATE " + MissionTableName + " SET survey_block_id='s'"}));
+    QVERIFY(runSql(m_file,
+                   {"UPDATE " + SurveyAreaTableName + " SET survey_area_guid='s'",
+                    "UPDATE " + MissionTableName + " SET survey_block_id='s'"}));
     CRkBlock block;
     QVERIFY(loadFrom(block, "s"));
     QCOMPARE(block.GetAnchor().size(), 4);
@@ -147,10 +150,14 @@ void tst_CRkBlock::noSuchRow_data()
 {
     QTest::addColumn<QString>("guid");
     QTest::addColumn<QString>("project");
-    QTest::newRow("other block") << "c" << "p";
-    QTest::newRow("other project") << "a" << "q";
-    QTest::newRow("no block") << "" << "p";
-    QTest::newRow("no project") << "a" << "";
+    QTest::newRow("other block") << "c"
+                                 << "p";
+    QTest::newRow("other project") << "a"
+                                   << "q";
+    QTest::newRow("no block") << ""
+                              << "p";
+    QTest::newRow("no project") << "a"
+                                << "";
 }
 
 void tst_CRkBlock::noSuchRow()
@@ -264,9 +271,11 @@ void tst_CRkBlock::withoutTaskTable()
 
 void tst_CRkBlock::withoutOptionalColumns()
 {
-    QVERIFY(runSql(m_file, {"DROP TABLE " + SurveyAreaTableName,
-                            "CREATE TABLE " + SurveyAreaTableName + " (project_id TEXT, survey_area_guid TEXT)",
-                            "INSERT INTO " + SurveyAreaTableName + " VALUES ('p','a')"}));
+    QVERIFY(
+        runSql(m_file,
+               {"DROP TABLE " + SurveyAreaTableName,
+                "CREATE TABLE " + SurveyAreaTableName + " (project_id TEXT, survey_area_guid TEXT)",
+                "INSERT INTO " + SurveyAreaTableName + " VALUES ('p','a')"}));
     CRkBlock block;
     QVERIFY(loadFrom(block, "a"));
     QCOMPARE(block.GetBlockType(), BlockTypeNone);
@@ -276,7 +285,8 @@ void tst_CRkBlock::withoutOptionalColumns()
 
 void tst_CRkBlock::quotesInIdentifiers()
 {
-    QVERIFY(runSql(m_file, {insertArea("p''s", "o''x", BlockTypeArea, "1,2"), insertTask("o''x", "t''9")}));
+    QVERIFY(runSql(m_file,
+                   {insertArea("p''s", "o''x", BlockTypeArea, "1,2"), insertTask("o''x", "t''9")}));
     CRkBlock block;
     QVERIFY(loadFrom(block, "o'x", "p's"));
     QCOMPARE(taskIds(block), QStringList("t'9"));

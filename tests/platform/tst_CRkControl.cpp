@@ -21,7 +21,8 @@ QPointF toGcj02(double lat, double lng)
     const double ee = 0.00669342162296594323;
     const double x = lng - 105.0;
     const double y = lat - 35.0;
-    double dLat = -100.0 + 2.0 * x + 3.0 * y + 0.2 * y * y + 0.1 * x * y + 0.2 * std::sqrt(std::fabs(x));
+    double dLat =
+        -100.0 + 2.0 * x + 3.0 * y + 0.2 * y * y + 0.1 * x * y + 0.2 * std::sqrt(std::fabs(x));
     dLat += (20.0 * std::sin(6.0 * x * M_PI) + 20.0 * std::sin(2.0 * x * M_PI)) * 2.0 / 3.0;
     dLat += (20.0 * std::sin(y * M_PI) + 40.0 * std::sin(y / 3.0 * M_PI)) * 2.0 / 3.0;
     dLat += (160.0 * std::sin(y / 12.0 * M_PI) + 320.0 * std::sin(y * M_PI / 30.0)) * 2.0 / 3.0;
@@ -122,13 +123,20 @@ void tst_CRkControl::flightFile_data()
 {
     QTest::addColumn<QString>("projectFile");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("plain") << "/p/Hill/Hill.proj" << "/p/Hill/Hill_flight.db";
-    QTest::newRow("dots in the name") << "/p/a.b/a.b.proj" << "/p/a.b/a.b_flight.db";
-    QTest::newRow("dot in the folder alone") << "/p/a.b/Hill" << "/p/a.b/Hill_flight.db";
-    QTest::newRow("blanks") << "/p/ a b /a b .proj" << "/p/ a b /a b _flight.db";
-    QTest::newRow("double slash") << "/p//Hill/Hill.proj" << "/p//Hill/Hill_flight.db";
-    QTest::newRow("in the root") << "/Hill.proj" << "/Hill_flight.db";
-    QTest::newRow("no folder") << "Hill.proj" << "Hill_flight.db";
+    QTest::newRow("plain") << "/p/Hill/Hill.proj"
+                           << "/p/Hill/Hill_flight.db";
+    QTest::newRow("dots in the name") << "/p/a.b/a.b.proj"
+                                      << "/p/a.b/a.b_flight.db";
+    QTest::newRow("dot in the folder alone") << "/p/a.b/Hill"
+                                             << "/p/a.b/Hill_flight.db";
+    QTest::newRow("blanks") << "/p/ a b /a b .proj"
+                            << "/p/ a b /a b _flight.db";
+    QTest::newRow("double slash") << "/p//Hill/Hill.proj"
+                                  << "/p//Hill/Hill_flight.db";
+    QTest::newRow("in the root") << "/Hill.proj"
+                                 << "/Hill_flight.db";
+    QTest::newRow("no folder") << "Hill.proj"
+                               << "Hill_flight.db";
 }
 
 void tst_CRkControl::flightFile()
@@ -141,10 +149,12 @@ void tst_CRkControl::knownPlaces_data()
 {
     QTest::addColumn<QPointF>("gcj02");
     QTest::addColumn<QPointF>("wgs84");
-    QTest::newRow("Shanghai") << QPointF(31.17530398364597, 121.531541859215) << QPointF(31.1774276, 121.5272106);
+    QTest::newRow("Shanghai") << QPointF(31.17530398364597, 121.531541859215)
+                              << QPointF(31.1774276, 121.5272106);
     QTest::newRow("Shenzhen") << QPointF(22.540796131694766, 113.9171764808363)
                               << QPointF(22.543847, 113.912316);
-    QTest::newRow("Beijing") << QPointF(39.91334545536069, 116.38404722455657) << QPointF(39.911954, 116.377817);
+    QTest::newRow("Beijing") << QPointF(39.91334545536069, 116.38404722455657)
+                             << QPointF(39.911954, 116.377817);
 }
 
 void tst_CRkControl::knownPlaces()
@@ -157,7 +167,8 @@ void tst_CRkControl::knownPlaces()
 void tst_CRkControl::offsetFormulaGivesThePositionAgain()
 {
     QRandomGenerator random(20260101);
-    QVector<QPointF> places = {{35, 105}, {35, 100}, {30, 105}, {18.2, 109.5}, {53.5, 122.3}, {39.5, 73.6}};
+    QVector<QPointF> places = {{35, 105},     {35, 100},     {30, 105},
+                               {18.2, 109.5}, {53.5, 122.3}, {39.5, 73.6}};
     for (int i = 0; i < 20000; ++i)
         places.append(QPointF(3 + random.generateDouble() * 51, 73 + random.generateDouble() * 64));
     for (const QPointF& place : qAsConst(places)) {

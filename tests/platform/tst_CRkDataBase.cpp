@@ -46,7 +46,8 @@ QStringList column(QSqlQuery query)
 #ifdef Q_OS_LINUX
 int openHandles(const QString& file)
 {
-    const QFileInfoList handles = QDir(QStringLiteral("/proc/self/fd")).entryInfoList(QDir::Files | QDir::System);
+    const QFileInfoList handles =
+        QDir(QStringLiteral("/proc/self/fd")).entryInfoList(QDir::Files | QDir::System);
     int count = 0;
     for (const QFileInfo& handle : handles)
         count += handle.symLinkTarget().startsWith(file);
@@ -102,7 +103,9 @@ void tst_CRkDataBase::init()
     m_dir = std::make_unique<QTemporaryDir>();
     QVERIFY(m_dir->isValid());
     m_file = m_dir->filePath(QStringLiteral("\u9879\u76ee a'b.proj"));
-    QVERIFY(runSql(m_file, {"CREATE TABLE t (n INTEGER, s TEXT)", "INSERT INTO t VALUES (1,'a'),(2,'b'),(3,'c')"}));
+    QVERIFY(runSql(
+        m_file,
+        {"CREATE TABLE t (n INTEGER, s TEXT)", "INSERT INTO t VALUES (1,'a'),(2,'b'),(3,'c')"}));
     m_collector = std::make_unique<MessageCollector>();
 }
 
@@ -226,7 +229,8 @@ void tst_CRkDataBase::failingStatements()
     QSqlQuery query = database.exec(sql);
     QVERIFY(!query.next());
     QVERIFY(!query.isActive());
-    QCOMPARE(column(database.exec("select s from t")), QStringList({"a", "b", "c"})); // It works on.
+    QCOMPARE(column(database.exec("select s from t")),
+             QStringList({"a", "b", "c"})); // It works on.
     database.close();
     QCOMPARE(readFile(m_file), before);
 }
@@ -272,7 +276,8 @@ void tst_CRkDataBase::nestedQueries()
     QStringList pairs;
     QSqlQuery outer = database.exec("select n from t order by n");
     while (outer.next()) {
-        QSqlQuery inner = database.exec("select s from t where n<=" + outer.value(0).toString() + " order by n");
+        QSqlQuery inner =
+            database.exec("select s from t where n<=" + outer.value(0).toString() + " order by n");
         while (inner.next())
             pairs.append(outer.value(0).toString() + inner.value(0).toString());
     }
@@ -406,15 +411,33 @@ void tst_CRkDataBase::readingLeavesTheFile()
     QByteArray content = readFile(m_file);
     QCOMPARE(content.size(), 2 * 4096);
     switch (damage) {
-    case 1: content.truncate(50); break;
-    case 2: content.truncate(1000); break;
-    case 3: content.truncate(4096); break;
-    case 4: content.replace(4096 + 8, 200, QByteArray(200, '\xff')); break;
-    case 5: content[18] = content[19] = 2; break;
-    case 6: content = "This is no database, only a text that is longer than a header. " + QByteArray(500, 'x'); break;
-    case 7: content.clear(); break;
-    case 8: content.fill('\xff'); break;
-    default: break;
+    case 1:
+        content.truncate(50);
+        break;
+    case 2:
+        content.truncate(1000);
+        break;
+    case 3:
+        content.truncate(4096);
+        break;
+    case 4:
+        content.replace(4096 + 8, 200, QByteArray(200, '\xff'));
+        break;
+    case 5:
+        content[18] = content[19] = 2;
+        break;
+    case 6:
+        content = "This is no database, only a text that is longer than a header. "
+            + QByteArray(500, 'x');
+        break;
+    case 7:
+        content.clear();
+        break;
+    case 8:
+        content.fill('\xff');
+        break;
+    default:
+        break;
     }
     QVERIFY(writeFile(m_file, content));
     const QStringList files = QDir(m_dir->path()).entryList(QDir::AllEntries | QDir::Hidden);

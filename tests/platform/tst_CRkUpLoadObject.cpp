@@ -95,15 +95,19 @@ public:
     explicit Upload(bool start = true)
         : object(std::make_unique<CRkUpLoadObject>())
     {
-        connect(object.get(), &CRkUpLoadObject::upLoadFinished, this, [this](const QByteArray& reply) {
-            outcomes.append("finished");
-            replies.append(reply);
-        });
-        connect(object.get(), &CRkUpLoadObject::NetWorkError, this, [this] { outcomes.append("error"); });
-        connect(object.get(), &CRkUpLoadObject::NoLogin, this, [this] { outcomes.append("login"); });
-        connect(object.get(), &CRkUpLoadObject::uploadProgress, this, [this](qint64 sent, qint64 total) {
-            progress.append({sent, total});
-        });
+        connect(object.get(), &CRkUpLoadObject::upLoadFinished, this,
+                [this](const QByteArray& reply) {
+                    outcomes.append("finished");
+                    replies.append(reply);
+                });
+        connect(object.get(), &CRkUpLoadObject::NetWorkError, this,
+                [this] { outcomes.append("error"); });
+        connect(object.get(), &CRkUpLoadObject::NoLogin, this,
+                [this] { outcomes.append("login"); });
+        connect(object.get(), &CRkUpLoadObject::uploadProgress, this,
+                [this](qint64 sent, qint64 total) {
+                    progress.append({sent, total});
+                });
         object->moveToThread(&thread);
         if (start)
             thread.start();
@@ -127,7 +131,8 @@ public:
     /// Waits until all that the object's thread has begun is done and has arrived here.
     void settle()
     {
-        QMetaObject::invokeMethod(object.get(), [] {}, Qt::BlockingQueuedConnection);
+        QMetaObject::invokeMethod(
+            object.get(), [] {}, Qt::BlockingQueuedConnection);
         QCoreApplication::processEvents();
     }
 
@@ -140,7 +145,8 @@ public:
 
 QByteArray answerOf(int status, const QByteArray& headers = QByteArray())
 {
-    return "HTTP/1.1 " + QByteArray::number(status) + " Text\r\n" + headers + "Content-Length: 4\r\n\r\nbody";
+    return "HTTP/1.1 " + QByteArray::number(status) + " Text\r\n" + headers
+        + "Content-Length: 4\r\n\r\nbody";
 }
 
 } // namespace
@@ -161,6 +167,7 @@ private slots:
     void failures();
     void serviceThatIsNotThere();
     void serviceThatHangsUp();
+    void serviceThatSpeaksNoHttp();
     void serviceThatStandsStill();
     void signalsComeFromTheObjectsThread();
     void nothingIsSignalledDuringTheCall();
@@ -194,7 +201,8 @@ void tst_CRkUpLoadObject::cleanup()
 void tst_CRkUpLoadObject::sendsThePost()
 {
     Service service;
-    service.answer = QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\n") + QByteArray("a\0b&c", 5);
+    service.answer =
+        QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\n") + QByteArray("a\0b&c", 5);
     QByteArray body("data={\"a\":\"x&y=%41+\xe9\xa1\xb9\"}\r\n");
     body.append('\0').append('\xff');
     Upload upload;
@@ -233,7 +241,8 @@ void tst_CRkUpLoadObject::outcomeFollowsTheStatus_data()
     QTest::addColumn<QString>("outcome");
     QTest::newRow("200") << answerOf(200) << "finished";
     QTest::newRow("201") << answerOf(201) << "finished";
-    QTest::newRow("204 without body") << QByteArray("HTTP/1.1 204 No Content\r\n\r\n") << "finished";
+    QTest::newRow("204 without body")
+        << QByteArray("HTTP/1.1 204 No Content\r\n\r\n") << "finished";
     QTest::newRow("302") << answerOf(302, "Location: /login\r\n") << "error";
     QTest::newRow("304") << QByteArray("HTTP/1.1 304 Not Modified\r\n\r\n") << "error";
     QTest::newRow("400") << answerOf(400) << "error";
@@ -245,8 +254,8 @@ void tst_CRkUpLoadObject::outcomeFollowsTheStatus_data()
     QTest::newRow("407") << answerOf(407) << "error";
     QTest::newRow("500") << answerOf(500) << "error";
     QTest::newRow("503") << answerOf(503) << "error";
-    QTest::newRow("no HTTP") << QByteArray("hello\r\n\r\n") << "error";
-    QTest::newRow("chunks") << QByteArray("HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n2\r\nab\r\n0\r\n\r\n")
+    QTest::newRow("chunks") << QByteArray(
+        "HTTP/1.1 200 OK\r\nTransfer-Encoding: chunked\r\n\r\n2\r\nab\r\n0\r\n\r\n")
                             << "finished";
 }
 
@@ -303,6 +312,17 @@ void tst_CRkUpLoadObject::serviceThatHangsUp()
     QCOMPARE(upload.outcomes, QStringList("error"));
 }
 
+void tst_CRkUpLoadObject::serviceThatSpeaksNoHttp()
+{
+    Service service;
+    service.answer = "hello\r\n\r\n";
+    Upload upload;
+    upload.post(service.url(), "data=x");
+    QTRY_VERIFY(!upload.outcomes.isEmpty());
+    upload.settle();
+    QCOMPARE(upload.outcomes, QStringList("error"));
+}
+
 void tst_CRkUpLoadObject::serviceThatStandsStill()
 {
     SetUploadTimeout(50);
@@ -319,7 +339,7 @@ void tst_CRkUpLoadObject::signalsComeFromTheObjectsThread()
 {
     Service service;
     Upload upload;
-    std::atomic<QThread*> sender {nullptr};
+    std::atomic<QThread*> sender{nullptr};
     connect(
         upload.object.get(), &CRkUpLoadObject::upLoadFinished, upload.object.get(),
         [&sender] { sender = QThread::currentThread(); }, Qt::DirectConnection);
@@ -360,7 +380,8 @@ void tst_CRkUpLoadObject::everyPostHasItsOwnOutcome()
     QCOMPARE(upload.outcomes.count("finished"), 10);
     QCOMPARE(service.requests.size(), 10);
     for (const Request& request : qAsConst(service.requests))
-        QVERIFY(request.head.startsWith("POST /" + request.body.mid(5) + " ")); // Address and body of one call.
+        QVERIFY(request.head.startsWith("POST /" + request.body.mid(5)
+                                        + " ")); // Address and body of one call.
 }
 
 void tst_CRkUpLoadObject::postBeforeTheThreadStarts()

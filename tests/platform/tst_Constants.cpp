@@ -21,8 +21,8 @@ private slots:
 
 void tst_Constants::tableNamesArePlainAndDifferent()
 {
-    const QStringList names = {ProjectTableName, SurveyAreaTableName, MissionTableName, FlightMissionTableName,
-                               MarkerPointTableName};
+    const QStringList names = {ProjectTableName, SurveyAreaTableName, MissionTableName,
+                               FlightMissionTableName, MarkerPointTableName};
     const QRegularExpression plain(QStringLiteral("^[a-z_]+$"));
     for (const QString& name : names)
         QVERIFY2(plain.match(name).hasMatch(), qPrintable(name));
@@ -54,7 +54,8 @@ void tst_Constants::applicationVersionIsNotOld()
 
 void tst_Constants::settingsNamesAreThere()
 {
-    for (const QString& name : {OrganizationName, CloundApplicationName, UserInfoGroupName, UserInfoUserID})
+    for (const QString& name :
+         {OrganizationName, CloundApplicationName, UserInfoGroupName, UserInfoUserID})
         QVERIFY(!name.isEmpty() && !name.contains(QLatin1Char('/')));
 }
 

@@ -58,11 +58,13 @@ void tst_Gravity::centroidOfArea_data()
     QTest::addColumn<Ring>("ring");
     QTest::addColumn<QPointF>("expected");
     QTest::newRow("triangle") << Ring({{30, 104}, {33, 104}, {30, 107}}) << QPointF(31, 105);
-    QTest::newRow("rectangle") << Ring({{-10, -20}, {-10, 30}, {40, 30}, {40, -20}}) << QPointF(15, 5);
+    QTest::newRow("rectangle") << Ring({{-10, -20}, {-10, 30}, {40, 30}, {40, -20}})
+                               << QPointF(15, 5);
     QTest::newRow("more corners on one side")
         << Ring({{0, 0}, {0, 1}, {0, 2}, {0, 3}, {0, 4}, {4, 4}, {4, 0}}) << QPointF(2, 2);
     QTest::newRow("concave") << ell << ellCentroid;
-    QTest::newRow("repeated corner") << Ring({{0, 0}, {2, 0}, {2, 0}, {2, 2}, {0, 2}}) << QPointF(1, 1);
+    QTest::newRow("repeated corner")
+        << Ring({{0, 0}, {2, 0}, {2, 0}, {2, 2}, {0, 2}}) << QPointF(1, 1);
 }
 
 void tst_Gravity::centroidOfArea()
@@ -104,10 +106,14 @@ void tst_Gravity::meanWithoutArea_data()
     QTest::newRow("one point") << Ring({{30, 104}}) << QPointF(30, 104);
     QTest::newRow("one point, closed") << Ring({{30, 104}, {30, 104}}) << QPointF(30, 104);
     QTest::newRow("two points") << Ring({{30, 104}, {32, 106}}) << QPointF(31, 105);
-    QTest::newRow("two points, closed") << Ring({{30, 104}, {32, 106}, {30, 104}}) << QPointF(31, 105);
-    QTest::newRow("a line, more points at one end") << Ring({{0, 0}, {1, 1}, {2, 2}, {9, 9}}) << QPointF(3, 3);
-    QTest::newRow("all points in one place") << Ring({{5, 7}, {5, 7}, {5, 7}, {5, 7}}) << QPointF(5, 7);
-    QTest::newRow("two loops that cancel out") << Ring({{0, 0}, {2, 2}, {2, 0}, {0, 2}}) << QPointF(1, 1);
+    QTest::newRow("two points, closed")
+        << Ring({{30, 104}, {32, 106}, {30, 104}}) << QPointF(31, 105);
+    QTest::newRow("a line, more points at one end")
+        << Ring({{0, 0}, {1, 1}, {2, 2}, {9, 9}}) << QPointF(3, 3);
+    QTest::newRow("all points in one place")
+        << Ring({{5, 7}, {5, 7}, {5, 7}, {5, 7}}) << QPointF(5, 7);
+    QTest::newRow("two loops that cancel out")
+        << Ring({{0, 0}, {2, 2}, {2, 0}, {0, 2}}) << QPointF(1, 1);
 }
 
 void tst_Gravity::meanWithoutArea()

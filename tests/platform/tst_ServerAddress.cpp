@@ -34,8 +34,10 @@ void tst_ServerAddress::environmentOverDefault_data()
     QTest::addColumn<QByteArray>("value");
     QTest::addColumn<QByteArray>("expected");
     QTest::newRow("as it is") << QByteArray("https://host:9") << QByteArray("https://host:9");
-    QTest::newRow("trailing slash") << QByteArray("https://host:9/") << QByteArray("https://host:9");
-    QTest::newRow("blanks and slashes") << QByteArray(" https://host:9// ") << QByteArray("https://host:9");
+    QTest::newRow("trailing slash")
+        << QByteArray("https://host:9/") << QByteArray("https://host:9");
+    QTest::newRow("blanks and slashes")
+        << QByteArray(" https://host:9// ") << QByteArray("https://host:9");
     QTest::newRow("empty") << QByteArray("") << QByteArray("http://127.0.0.1:8080");
     QTest::newRow("a slash alone") << QByteArray("/") << QByteArray("http://127.0.0.1:8080");
 }

@@ -15,6 +15,7 @@ QString ProjectFixture::write(const QString& root) const
 {
     const QString file = root + name + '/' + name + ".proj";
     QStringList statements = {
+        "BEGIN",
         "CREATE TABLE " + ProjectTableName + " " + GetProjectTableContents(),
         "CREATE TABLE " + SurveyAreaTableName + " " + GetSurveyAreaTableContents(),
         "CREATE TABLE " + MissionTableName + " " + GetMissionTableContents(),
@@ -29,6 +30,7 @@ QString ProjectFixture::write(const QString& root) const
                                     "survey_area_coordinate_points) VALUES ('a%1','a%1','%2','area %1','%3')")
                                 .arg(QString::number(i), id, outlines[i]));
     }
+    statements.append("COMMIT");
     return runSql(file, statements) ? file : QString();
 }
 

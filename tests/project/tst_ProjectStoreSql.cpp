@@ -29,6 +29,8 @@ private slots:
     void copyOnAFile();
     void renameOnAFile();
     void quoteInANameChangesNothing();
+    void computedTables_data();
+    void computedTables();
 
 private:
     QTemporaryDir m_dir;
@@ -187,6 +189,31 @@ void tst_ProjectStoreSql::quoteInANameChangesNothing()
     QVERIFY(runSql(m_file, ProjectStoreSql::createTables()));
     QVERIFY(!runSql(m_file, {ProjectStoreSql::insertProject({"Ben's Hill", "id", "user-1", hill.now})}));
     QCOMPARE(readSql(m_file, ProjectStoreSql::selectProject("user-1")), QStringList());
+}
+
+void tst_ProjectStoreSql::computedTables_data()
+{
+    QTest::addColumn<QString>("statement");
+    QTest::addColumn<bool>("isComputed");
+    const QString areas = SurveyAreaTableName;
+    QTest::newRow("as made") << "CREATE INDEX i ON " + areas + " (project_id)" << false;
+    QTest::newRow("no such table") << "DROP TABLE " + areas << false;
+    QTest::newRow("another view") << "CREATE VIEW v AS SELECT 1" << false;
+    QTest::newRow("a trigger") << "CREATE TRIGGER t DELETE ON " + areas + " BEGIN SELECT 1; END" << false;
+    QTest::newRow("a generated column") << "ALTER TABLE " + areas + " ADD COLUMN c AS (1)" << true;
+}
+
+void tst_ProjectStoreSql::computedTables()
+{
+    QFETCH(QString, statement);
+    QVERIFY(runSql(m_file, ProjectStoreSql::createTables()));
+    QVERIFY(runSql(m_file, {statement}));
+    QTEST(!readSql(m_file, ProjectStoreSql::selectComputedTables()).isEmpty(), "isComputed");
+
+    // The same table as a view, in other letters.
+    QVERIFY(runSql(m_file, {"ALTER TABLE " + ProjectTableName + " RENAME TO other",
+                            "CREATE VIEW " + ProjectTableName.toUpper() + " AS SELECT * FROM other"}));
+    QVERIFY(!readSql(m_file, ProjectStoreSql::selectComputedTables()).isEmpty());
 }
 
 QTEST_GUILESS_MAIN(tst_ProjectStoreSql)

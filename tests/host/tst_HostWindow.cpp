@@ -1,0 +1,164 @@
+// SPDX-FileCopyrightText: 2026 The RkBaseUI developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+
+#include "app/HostSettings.h"
+#include "app/HostWindow.h"
+#include "samples/SampleProjects.h"
+#include "support/TestSupport.h"
+
+#include <RkBaseUI/CRkProjectManagerView.h>
+
+#include <QComboBox>
+#include <QFileInfo>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPushButton>
+#include <QSettings>
+#include <QStatusBar>
+#include <QTest>
+
+#include <algorithm>
+
+class tst_HostWindow : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void initTestCase();
+    void init();
+    void settingsHoldTheUser();
+    void countsTheProjectsOfTheUser();
+    void anotherUserSeesOtherProjects();
+    void keywordFilters();
+    void placeFilters();
+    void dateFilters();
+    void emptyPageSaysSo();
+    void newProjectIsMadeAndCounted();
+    void openedProjectIsNamed();
+
+private:
+    static QStringList statusTexts(const HostWindow& window);
+
+    TestHome m_home;
+};
+
+void tst_HostWindow::initTestCase()
+{
+    SampleOptions samples;
+    samples.root = m_home.projectRoot();
+    samples.userId = sampleUserId();
+    samples.now = QDateTime::currentDateTime();
+    QCOMPARE(writeSampleProjects(samples).size(), 24);
+}
+
+void tst_HostWindow::init()
+{
+    HostSettings::setProjectRoot(m_home.projectRoot());
+    HostSettings::setCurrentUser(sampleUserId());
+}
+
+QStringList tst_HostWindow::statusTexts(const HostWindow& window)
+{
+    QStringList texts;
+    for (const QLabel* label : window.findChild<QStatusBar*>()->findChildren<QLabel*>())
+        texts.append(label->text());
+    return texts;
+}
+
+void tst_HostWindow::settingsHoldTheUser()
+{
+    HostSettings::setCurrentUser(QStringLiteral("somebody"));
+    QCOMPARE(QSettings(QStringLiteral("RkOrganization"), QStringLiteral("RkCloud"))
+                 .value(QStringLiteral("UserInfo/UserID"))
+                 .toString(),
+             QStringLiteral("somebody"));
+}
+
+void tst_HostWindow::countsTheProjectsOfTheUser()
+{
+    const HostWindow window;
+    QVERIFY(statusTexts(window).contains(QStringLiteral("20 projects")));
+}
+
+void tst_HostWindow::anotherUserSeesOtherProjects()
+{
+    HostSettings::setCurrentUser(QStringLiteral("nobody"));
+    const HostWindow window;
+    QVERIFY(statusTexts(window).contains(QStringLiteral("0 projects")));
+}
+
+void tst_HostWindow::keywordFilters()
+{
+    SampleOptions samples;
+    samples.userId = sampleUserId();
+    samples.now = QDateTime::currentDateTime();
+    const QString name = planSampleProjects(samples).first().name;
+    HostWindow window;
+    window.findChild<QLineEdit*>()->setText(name.toUpper());
+    QVERIFY(statusTexts(window).contains(QStringLiteral("1 project")));
+    window.findChild<QLineEdit*>()->clear();
+    QVERIFY(statusTexts(window).contains(QStringLiteral("20 projects")));
+}
+
+void tst_HostWindow::placeFilters()
+{
+    HostWindow window;
+    auto* place = window.findChildren<QComboBox*>().at(0);
+    QCOMPARE(place->count(), 1 + 34);
+    int sum = 0;
+    for (int i = 1; i < place->count(); ++i) {
+        place->setCurrentIndex(i);
+        sum += statusTexts(window).first().section(QLatin1Char(' '), 0, 0).toInt();
+    }
+    QCOMPARE(sum, 20); // Every project lies in one province.
+}
+
+void tst_HostWindow::dateFilters()
+{
+    HostWindow window;
+    auto* date = window.findChildren<QComboBox*>().at(1);
+    int last = 0;
+    for (int i = 1; i < date->count(); ++i) {
+        date->setCurrentIndex(i);
+        const int count = statusTexts(window).first().section(QLatin1Char(' '), 0, 0).toInt();
+        QVERIFY2(count >= last, "longer times hold more");
+        last = count;
+    }
+    QVERIFY(last > 3 && last < 20);
+}
+
+void tst_HostWindow::emptyPageSaysSo()
+{
+    HostWindow window;
+    window.show();
+    const auto message = [&] {
+        const QList<QLabel*> labels = window.findChildren<QLabel*>();
+        return *std::find_if(labels.cbegin(), labels.cend(), [](const QLabel* label) {
+            return label->text() == QLatin1String("No projects to show");
+        });
+    }();
+    QVERIFY(!message->isVisible());
+    window.setKeyword(QStringLiteral("no such name"));
+    QVERIFY(message->isVisible());
+    QVERIFY(statusTexts(window).contains(QStringLiteral("0 projects")));
+}
+
+void tst_HostWindow::newProjectIsMadeAndCounted()
+{
+    HostWindow window;
+    QTest::mouseClick(window.findChild<QPushButton*>(), Qt::LeftButton);
+    QVERIFY(statusTexts(window).contains(QStringLiteral("21 projects")));
+    const QString file = m_home.projectRoot() + QStringLiteral("New Project/New Project.proj");
+    QVERIFY(QFileInfo::exists(file));
+    QVERIFY(QFile::remove(file));
+}
+
+void tst_HostWindow::openedProjectIsNamed()
+{
+    const HostWindow window;
+    emit window.view()->projectOpened(QStringLiteral("/projects/River.1/River.1.proj"));
+    QVERIFY(statusTexts(window).contains(QStringLiteral("Opened: River.1")));
+}
+
+QTEST_MAIN(tst_HostWindow)
+#include "tst_HostWindow.moc"
