@@ -2,8 +2,8 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
 // Loading the city catalogue, against reading the same rows with the SQLite C API and parsing their
-// numbers with std::from_chars. The catalogue loads once in a process, so each measurement is a process
-// of its own: the program starts itself with "--once".
+// numbers with std::from_chars. The catalogue loads once in a process, so each measurement is a
+// process of its own: the program starts itself with "--once".
 
 #include "Bench.h"
 
@@ -56,7 +56,8 @@ std::vector<std::pair<double, double>> parseOutline(std::string_view text)
 std::string_view column(sqlite3_stmt* statement, int index)
 {
     const auto* text = reinterpret_cast<const char*>(sqlite3_column_text(statement, index));
-    return text ? std::string_view(text, std::size_t(sqlite3_column_bytes(statement, index))) : std::string_view();
+    return text ? std::string_view(text, std::size_t(sqlite3_column_bytes(statement, index)))
+                : std::string_view();
 }
 
 /// Every row once, each number parsed once.
@@ -68,15 +69,22 @@ std::vector<Place> readPlainly(const std::string& file)
     const std::unique_ptr<sqlite3, decltype(&sqlite3_close)> database(handle, sqlite3_close);
     sqlite3_stmt* prepared = nullptr;
     if (opened != SQLITE_OK
-        || sqlite3_prepare_v2(handle, "select name,letter,parent_id,level,lat,lng,polyline from city", -1,
-                              &prepared, nullptr) != SQLITE_OK) {
+        || sqlite3_prepare_v2(handle,
+                              "select name,letter,parent_id,level,lat,lng,polyline from city", -1,
+                              &prepared, nullptr)
+            != SQLITE_OK) {
         return places;
     }
-    const std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_finalize)> statement(prepared, sqlite3_finalize);
+    const std::unique_ptr<sqlite3_stmt, decltype(&sqlite3_finalize)> statement(prepared,
+                                                                               sqlite3_finalize);
     while (sqlite3_step(prepared) == SQLITE_ROW) {
-        places.push_back({std::string(column(prepared, 0)), std::string(column(prepared, 1)),
-                          sqlite3_column_int(prepared, 2), sqlite3_column_int(prepared, 3),
-                          sqlite3_column_double(prepared, 4), sqlite3_column_double(prepared, 5), {}});
+        places.push_back({std::string(column(prepared, 0)),
+                          std::string(column(prepared, 1)),
+                          sqlite3_column_int(prepared, 2),
+                          sqlite3_column_int(prepared, 3),
+                          sqlite3_column_double(prepared, 4),
+                          sqlite3_column_double(prepared, 5),
+                          {}});
         if (places.back().level == 2)
             places.back().outline = parseOutline(column(prepared, 6));
     }
@@ -86,7 +94,8 @@ std::vector<Place> readPlainly(const std::string& file)
 /// Prints the seconds of the catalogue, those of the floor, and the number of places.
 int measureOnce()
 {
-    const std::string file = QCoreApplication::applicationDirPath().toStdString() + "/ChinaAdminiDstrict.db";
+    const std::string file =
+        QCoreApplication::applicationDirPath().toStdString() + "/ChinaAdminiDstrict.db";
     // The driver is a plugin; loading it is no part of either side.
     QSqlDatabase::addDatabase("QSQLITE").setDatabaseName(":memory:");
     QSqlDatabase::database().open();
@@ -127,5 +136,8 @@ int main(int argc, char** argv)
     }
     std::sort(ours.begin(), ours.end());
     std::sort(floor.begin(), floor.end());
-    return bench::report("city catalogue load / plain SQLite", places, ours[runs / 2], floor[runs / 2], 2.0) ? 0 : 1;
+    return bench::report("city catalogue load / plain SQLite", places, ours[runs / 2],
+                         floor[runs / 2], 2.0)
+        ? 0
+        : 1;
 }

@@ -1,8 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The RkBaseUI developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
-// Listing and filtering of project tiles. The floor of the listing is a plain loop over the same files: the
-// SQLite C API, the same two selects, and the same thumbnails decoded and scaled, one after the other.
+// Listing and filtering of project tiles. The floor of the listing is a plain loop over the same
+// files: the SQLite C API, the same two selects, and the same thumbnails decoded and scaled, one
+// after the other.
 
 #include "Bench.h"
 
@@ -75,7 +76,8 @@ void readPlainly(const QByteArray& file, const QByteArray& userId, Floor& floor)
     sqlite3* database = nullptr;
     sqlite3_stmt* statement = nullptr;
     sqlite3_open_v2(file.constData(), &database, SQLITE_OPEN_READWRITE, nullptr);
-    const QByteArray project = "select * from " + ProjectTableName.toUtf8() + " where user_id='" + userId + "'";
+    const QByteArray project =
+        "select * from " + ProjectTableName.toUtf8() + " where user_id='" + userId + "'";
     sqlite3_prepare_v2(database, project.constData(), -1, &statement, nullptr);
     QByteArray id;
     QByteArray image;
@@ -85,8 +87,8 @@ void readPlainly(const QByteArray& file, const QByteArray& userId, Floor& floor)
     }
     sqlite3_finalize(statement);
 
-    const QByteArray outlines = "select survey_area_coordinate_points from " + SurveyAreaTableName.toUtf8()
-                                + " where project_id='" + id + "'";
+    const QByteArray outlines = "select survey_area_coordinate_points from "
+        + SurveyAreaTableName.toUtf8() + " where project_id='" + id + "'";
     sqlite3_prepare_v2(database, outlines.constData(), -1, &statement, nullptr);
     while (sqlite3_step(statement) == SQLITE_ROW)
         floor.outlineBytes += sqlite3_column_bytes(statement, 0);
@@ -101,9 +103,11 @@ void readPlainly(const QByteArray& file, const QByteArray& userId, Floor& floor)
 QByteArrayList allProjectFiles(const QString& root)
 {
     QByteArrayList files;
-    const QStringList folders = QDir(root).entryList(QDir::AllDirs | QDir::NoDotAndDotDot, QDir::Unsorted);
+    const QStringList folders =
+        QDir(root).entryList(QDir::AllDirs | QDir::NoDotAndDotDot, QDir::Unsorted);
     for (const QString& folder : folders) {
-        const QStringList names = QDir(root + folder).entryList({"*.proj"}, QDir::Files, QDir::Unsorted);
+        const QStringList names =
+            QDir(root + folder).entryList({"*.proj"}, QDir::Files, QDir::Unsorted);
         for (const QString& name : names)
             files.append(QFile::encodeName(root + folder + '/' + name));
     }
@@ -156,7 +160,8 @@ long residentBytes()
     return file.open(QIODevice::ReadOnly) ? file.readAll().split(' ').value(1).toLong() * 4096 : 0;
 }
 
-/// Bytes of one tile without the pixels of its thumbnail. Run in a process that has made nothing before.
+/// Bytes of one tile without the pixels of its thumbnail. Run in a process that has made nothing
+/// before.
 double bytesPerTile(const QString& root, int count)
 {
     qputenv("RK_PROJECT_DIR", QFile::encodeName(root));
@@ -180,7 +185,8 @@ double filterSeconds(const QString& root)
     const QList<CRkGraphicsProjectRectItem*> tiles = tilesOf(*view);
     for (int i = 0; i < tiles.size(); ++i) {
         // One in six fails by each condition; the others pass all.
-        tiles[i]->SetProjectFilePath(QString("/projects/%1/%1.proj").arg(i % 6 == 0 ? "Dale" : "Hill"));
+        tiles[i]->SetProjectFilePath(
+            QString("/projects/%1/%1.proj").arg(i % 6 == 0 ? "Dale" : "Hill"));
         tiles[i]->SetProvinceCityList({i % 6 == 1 ? "Xiamen" : "Chengdu", "a province"});
         tiles[i]->GetTextItem()->SetPrjModifiedDateTime(i % 6 == 2 ? "2026-04-30 23:59:59"
                                                                    : "2026-05-03 12:00:00");
@@ -221,14 +227,18 @@ int main(int argc, char* argv[])
     const double bytes = bytesPerTile(many, 5000);
     const double listingSome = listingSeconds(some, 1000);
     const double listingMany = listingSeconds(many, 5000);
-    bool met = bench::report("list projects / plain loop", 1000, listingSome, plainLoopSeconds(some), 0.8);
-    met = bench::report("list projects / plain loop", 5000, listingMany, plainLoopSeconds(many), 0.8) && met;
-    met = bench::report("list 5000 projects / list 1000", 5000, listingMany, listingSome, 5.5) && met;
+    bool met =
+        bench::report("list projects / plain loop", 1000, listingSome, plainLoopSeconds(some), 0.8);
+    met =
+        bench::report("list projects / plain loop", 5000, listingMany, plainLoopSeconds(many), 0.8)
+        && met;
+    met =
+        bench::report("list 5000 projects / list 1000", 5000, listingMany, listingSome, 5.5) && met;
     met = bench::report("filter tiles / list 100 projects", 5000, filterSeconds(many),
                         listingSeconds(few, 100), 1.0)
-          && met;
+        && met;
     constexpr double limit = 40 * 1024;
-    std::printf("%-44s %9d %11.1f KB %35s (<= 40) %s\n", "memory of a tile over its pixels", 5000, bytes / 1024,
-                "", bytes <= limit ? "ok" : "MISSED");
+    std::printf("%-44s %9d %11.1f KB %35s (<= 40) %s\n", "memory of a tile over its pixels", 5000,
+                bytes / 1024, "", bytes <= limit ? "ok" : "MISSED");
     return met && bytes <= limit ? 0 : 1;
 }

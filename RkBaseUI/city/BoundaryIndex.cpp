@@ -21,7 +21,8 @@ constexpr int piecesPerCorner = 4;
 constexpr int piecesPerPolygon = 4 * cellsPerSide;
 constexpr int nothing = -1;
 
-/// The ring as the fill rule sees it: closed unless its ends already coincide, by the toolkit's measure.
+/// The ring as the fill rule sees it: closed unless its ends already coincide, by the toolkit's
+/// measure.
 QPolygonF closed(QPolygonF polygon)
 {
     if (!polygon.isEmpty() && polygon.constLast() != polygon.constFirst())
@@ -76,7 +77,7 @@ template <typename Visit>
 void BandedPolygon::forEachBandOfEdge(Visit visit) const
 {
     for (int i = 0; i + 1 < m_ring.size(); ++i) {
-        Edge edge {m_ring.at(i), m_ring.at(i + 1)};
+        Edge edge{m_ring.at(i), m_ring.at(i + 1)};
         if (edge.high.y() == edge.low.y())
             continue;
         if (edge.high.y() < edge.low.y())
@@ -98,7 +99,8 @@ bool BandedPolygon::contains(const QPointF& point) const
         const auto& [low, high] = m_edges[static_cast<std::size_t>(listed)];
         if (y < low.y() || y >= high.y())
             continue;
-        const double crossing = low.x() + (high.x() - low.x()) / (high.y() - low.y()) * (y - low.y());
+        const double crossing =
+            low.x() + (high.x() - low.x()) / (high.y() - low.y()) * (y - low.y());
         // A point on the edge is decided by the toolkit itself, in whose rounding it lies.
         if (std::abs(crossing - point.x()) <= tolerance)
             return m_ring.containsPoint(point, Qt::OddEvenFill);
@@ -155,7 +157,8 @@ void BoundaryIndex::setExtent()
     const QPointF margin(gridMargin, gridMargin);
     m_origin = least - margin;
     m_end = most + margin;
-    m_cellsPerUnit = {cellsPerSide / (m_end.x() - m_origin.x()), cellsPerSide / (m_end.y() - m_origin.y())};
+    m_cellsPerUnit = {cellsPerSide / (m_end.x() - m_origin.x()),
+                      cellsPerSide / (m_end.y() - m_origin.y())};
 }
 
 int BoundaryIndex::column(double x) const
@@ -174,9 +177,11 @@ QPointF BoundaryIndex::centre(int column, int row) const
             m_origin.y() + (row + 0.5) / m_cellsPerUnit.y()};
 }
 
-BoundaryIndex::CellRange BoundaryIndex::cellsAround(const QPointF& corner, const QPointF& opposite) const
+BoundaryIndex::CellRange BoundaryIndex::cellsAround(const QPointF& corner,
+                                                    const QPointF& opposite) const
 {
-    // Cell numbers never fall as coordinates rise, so no rounding lets a point slip out of the range.
+    // Cell numbers never fall as coordinates rise, so no rounding lets a point slip out of the
+    // range.
     constexpr double slack = BandedPolygon::tolerance;
     return {column(std::min(corner.x(), opposite.x()) - slack),
             column(std::max(corner.x(), opposite.x()) + slack),
@@ -198,8 +203,8 @@ bool BoundaryIndex::markOutline(int polygon, std::vector<int>& marks) const
         if (piecesLeft < 0)
             return false;
         for (int piece = 0; piece < pieces; ++piece) {
-            const CellRange cells
-                = cellsAround(from + step * (double(piece) / pieces), from + step * (double(piece + 1) / pieces));
+            const CellRange cells = cellsAround(from + step * (double(piece) / pieces),
+                                                from + step * (double(piece + 1) / pieces));
             for (int row = cells.bottom; row <= cells.top; ++row) {
                 for (int column = cells.left; column <= cells.right; ++column)
                     marks[static_cast<std::size_t>(row * cellsPerSide + column)] = polygon;
@@ -215,7 +220,8 @@ void BoundaryIndex::addPolygon(int polygon, const std::vector<int>& marks)
     const QRectF bounds = shape.ring().boundingRect();
     const CellRange range = cellsAround(bounds.topLeft(), bounds.bottomRight());
     for (int row = range.bottom; row <= range.top; ++row) {
-        // Neighbours with no outline in them lie on the same side of it: one answer serves them all.
+        // Neighbours with no outline in them lie on the same side of it: one answer serves them
+        // all.
         bool known = false;
         bool inside = false;
         for (int column = range.left; column <= range.right; ++column) {
@@ -242,7 +248,8 @@ int BoundaryIndex::firstInGrid(const QPointF& point) const
         return nothing;
     }
     const int polygonCount = static_cast<int>(m_polygons.size());
-    int entry = m_cells[static_cast<std::size_t>(row(point.y()) * cellsPerSide + column(point.x()))];
+    int entry =
+        m_cells[static_cast<std::size_t>(row(point.y()) * cellsPerSide + column(point.x()))];
     while (entry >= polygonCount) {
         const Candidate candidate = m_candidates[static_cast<std::size_t>(entry - polygonCount)];
         if (m_polygons[static_cast<std::size_t>(candidate.polygon)].contains(point))

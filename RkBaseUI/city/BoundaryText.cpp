@@ -59,8 +59,9 @@ private:
         return static_cast<int>(std::min<std::ptrdiff_t>(m_position - start, maximumDigits + 1));
     }
 
-    /// The usual form, digits with a decimal point and perhaps a minus, in one pass. Integer and power of
-    /// ten are exact doubles, so that the one division rounds just as a full conversion would.
+    /// The usual form, digits with a decimal point and perhaps a minus, in one pass. Integer and
+    /// power of ten are exact doubles, so that the one division rounds just as a full conversion
+    /// would.
     bool readPlainDecimal(double& number)
     {
         static constexpr double powersOfTen[maximumDigits + 1] = {

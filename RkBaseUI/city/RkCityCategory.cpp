@@ -24,11 +24,12 @@ constexpr double provinceRadius = 800.0;
 constexpr double cityRadius = 300.0;
 constexpr double unknownRadius = 100000.0;
 
-// Every statement that the catalogue is asked. %1 takes a value as it is, neither escaped nor bound.
+// Every statement that the catalogue is asked. %1 takes a value as it is, neither escaped nor
+// bound.
 namespace sql {
 const QLatin1String provinces("select name,letter from `city` where parent_id = 1 order by letter");
-const QLatin1String provinceLetters(
-    "select distinct letter from `city` where parent_id = 1 order by letter ");
+const QLatin1String
+    provinceLetters("select distinct letter from `city` where parent_id = 1 order by letter ");
 const QLatin1String allLetters("select distinct letter as letter from `city` order by letter ");
 const QLatin1String citiesOfProvince("select name from `city` where parent_id = "
                                      "(select id from `city` where name='%1' and parent_id=1)");
@@ -100,7 +101,8 @@ void RkCityCategory::Catalogue::forEachRow(const QString& statement, Visit visit
 QStringList RkCityCategory::Catalogue::firstColumn(const QString& statement) const
 {
     QStringList values;
-    forEachRow(statement, [&values](const QSqlQuery& row) { values.append(row.value(0).toString()); });
+    forEachRow(statement,
+               [&values](const QSqlQuery& row) { values.append(row.value(0).toString()); });
     return values;
 }
 

@@ -16,13 +16,15 @@
 
 #include <memory>
 
-/// The country's provinces and cities, read once from `ChinaAdminiDstrict.db` beside the executable and
-/// never changed afterwards. A file that is missing or cannot be read leaves the catalogue empty. An
-/// application object must exist at the first use, because it knows where the executable is. GUI thread.
+/// The country's provinces and cities, read once from `ChinaAdminiDstrict.db` beside the executable
+/// and never changed afterwards. A file that is missing or cannot be read leaves the catalogue
+/// empty. An application object must exist at the first use, because it knows where the executable
+/// is. GUI thread.
 ///
 ///     const RkCityCategory& catalogue = RkCityCategory::instance();
 ///     const QString city = catalogue.GetCityName(PointLatLng(30.66, 104.06));
-///     const QStringList all = catalogue.provinceToCities().value(catalogue.provinceNames().first());
+///     const QStringList all =
+///     catalogue.provinceToCities().value(catalogue.provinceNames().first());
 class RKBASEUI_EXPORT RkCityCategory : public QObject
 {
     Q_OBJECT
@@ -36,16 +38,17 @@ public:
     /// The centre of a province or city, (0, 0) for an unknown name.
     PointLatLng getLatLng(const QString& name) const;
 
-    /// The search or zoom radius: 800.0 for a province, 300.0 for a city, 100000.0 for an unknown name.
+    /// The search or zoom radius: 800.0 for a province, 300.0 for a city, 100000.0 for an unknown
+    /// name.
     double getRadius(const QString& name) const;
 
     /// The first city whose boundary contains the point by the odd-even rule, exactly as
     /// `QPolygonF::containsPoint` decides it; the translated "N/A" when there is none.
     QString GetCityName(PointLatLng point) const;
 
-    /// All names with the keyword in them, in the order of the file. The keyword is part of an SQL `LIKE`
-    /// pattern as it stands: "%" and "_" are wildcards, and a single quote makes the search fail. Empty on
-    /// failure.
+    /// All names with the keyword in them, in the order of the file. The keyword is part of an SQL
+    /// `LIKE` pattern as it stands: "%" and "_" are wildcards, and a single quote makes the search
+    /// fail. Empty on failure.
     QStringList searchByKeyword(const QString& keyword) const;
 
     /// For each index letter of the provinces, the first province with it.
@@ -65,7 +68,8 @@ public:
     const QMap<QString, double>& radiusByName() const;
     /// As `getLatLng`, for provinces and cities.
     const QMap<QString, PointLatLng>& centreByName() const;
-    /// Boundary and name of each city in the order of the file; x is latitude and y longitude, degrees.
+    /// Boundary and name of each city in the order of the file; x is latitude and y longitude,
+    /// degrees.
     const QList<QPair<QPolygonF, QString>>& cityBoundaries() const;
 
 private:

@@ -20,7 +20,8 @@ void CRkGraphicsBlockItem::SetBlockName(const QString& name)
     update();
 }
 
-void CRkGraphicsBlockItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget)
+void CRkGraphicsBlockItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* option,
+                                 QWidget* widget)
 {
     QStyleOptionGraphicsItem plain(*option);
     plain.state = QStyle::State_None;

@@ -13,7 +13,8 @@ CRkGraphicsProjectRectItem::CRkGraphicsProjectRectItem(QGraphicsItem* parent)
     setPen(Qt::NoPen); // No border, so that the bounding rectangle is the rectangle itself.
 }
 
-void CRkGraphicsProjectRectItem::paint(QPainter* painter, const QStyleOptionGraphicsItem* /*option*/,
+void CRkGraphicsProjectRectItem::paint(QPainter* painter,
+                                       const QStyleOptionGraphicsItem* /*option*/,
                                        QWidget* /*widget*/)
 {
     QColor fill = Qt::white;

@@ -15,8 +15,8 @@
 class CRkGraphicsProjectImageItem;
 class CRkGraphicsProjectTextItem;
 
-/// The tile of one project: a rectangle that carries the project's data and shows whether it is selected
-/// or has the focus. Thumbnail and caption are its children.
+/// The tile of one project: a rectangle that carries the project's data and shows whether it is
+/// selected or has the focus. Thumbnail and caption are its children.
 ///
 ///     auto* tile = new CRkGraphicsProjectRectItem;
 ///     tile->setRect(0, 0, 200, 180);

@@ -102,6 +102,7 @@ void CRkGraphicsProjectTextItem::keyPressEvent(QKeyEvent* event)
         clearFocus();
         return;
     }
-    // The handler of releases passes every event on to the editor by its own type, presses included.
+    // The handler of releases passes every event on to the editor by its own type, presses
+    // included.
     QGraphicsTextItem::keyReleaseEvent(event);
 }

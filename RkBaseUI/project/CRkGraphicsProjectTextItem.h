@@ -8,8 +8,9 @@
 #include <QGraphicsTextItem>
 #include <QString>
 
-/// The caption of a project tile, through which the user renames the project. It shows the name elided;
-/// while it has the focus, the whole name stands in it for editing. Size and time are in the tooltip.
+/// The caption of a project tile, through which the user renames the project. It shows the name
+/// elided; while it has the focus, the whole name stands in it for editing. Size and time are in
+/// the tooltip.
 ///
 ///     auto* caption = new CRkGraphicsProjectTextItem(tile);
 ///     caption->SetPrjName(name);

@@ -81,8 +81,8 @@ void CRkProjectManagerView::ResetItemPos()
     const int last = m_visibleTiles.size() - 1;
     for (int i = 0; i < last; ++i)
         m_visibleTiles[i]->setPos(TileGrid::position(i, rect().width()));
-    // Scene and scroll bar follow the last tile alone: a shorter scene in between would take the scroll
-    // bar away and, with it, lay out everything once more.
+    // Scene and scroll bar follow the last tile alone: a shorter scene in between would take the
+    // scroll bar away and, with it, lay out everything once more.
     m_visibleTiles[last]->setPos(_calculateProjectItemPos(last));
 }
 
@@ -196,7 +196,8 @@ void CRkProjectManagerView::LoadExistProjects()
 }
 
 CRkGraphicsProjectRectItem* CRkProjectManagerView::AddProjectItem(const QString& defaultImage,
-                                                                  const QString& projectFile, bool isNew)
+                                                                  const QString& projectFile,
+                                                                  bool isNew)
 {
     const QString userId = ProjectListing::currentUserId();
     const std::optional<ProjectRecord> project = isNew ? ProjectListing::create(projectFile, userId)
@@ -209,8 +210,8 @@ CRkGraphicsProjectRectItem* CRkProjectManagerView::AddProjectItem(const QString&
 
 void CRkProjectManagerView::LoadBlockGravityListForProject(CRkGraphicsProjectRectItem* tile)
 {
-    const BlockPlaces blocks = ProjectListing::loadBlocks(tile->GetProjectFilePath(), tile->GetProjectID(),
-                                                          tile->GetSoftwareVersion());
+    const BlockPlaces blocks = ProjectListing::loadBlocks(
+        tile->GetProjectFilePath(), tile->GetProjectID(), tile->GetSoftwareVersion());
     tile->SetGravityList(tile->GetGravityList() + blocks.centres);
     tile->SetProvinceCityList(blocks.places);
 }
@@ -226,7 +227,8 @@ CRkGraphicsProjectRectItem* CRkProjectManagerView::_addTile(const ProjectRecord&
                                                             const QPixmap& pixmap)
 {
     auto* tile = new CRkGraphicsProjectRectItem;
-    tile->setParent(m_scene.get()); // So that a tile which a filter keeps out of the scene goes with it.
+    // A tile that a filter keeps out of the scene must go with it all the same.
+    tile->setParent(m_scene.get());
     tile->setRect(0, 0, tileWidth, tileHeight);
     tile->setFlag(QGraphicsItem::ItemIsSelectable);
     tile->setPos(_calculateProjectItemPos(m_visibleTiles.size()));
@@ -281,7 +283,8 @@ void CRkProjectManagerView::_UnSelectOtherItem(CRkGraphicsProjectRectItem* tile)
 CRkGraphicsProjectRectItem* CRkProjectManagerView::_getSelectedProjectItem() const
 {
     const QList<QGraphicsItem*> selected = m_scene->selectedItems();
-    return selected.isEmpty() ? nullptr : dynamic_cast<CRkGraphicsProjectRectItem*>(selected.first());
+    return selected.isEmpty() ? nullptr
+                              : dynamic_cast<CRkGraphicsProjectRectItem*>(selected.first());
 }
 
 void CRkProjectManagerView::_keepOneSelected()
@@ -313,7 +316,8 @@ QStringList CRkProjectManagerView::_projectFiles() const
 
 bool CRkProjectManagerView::_existName(const QString& name) const
 {
-    return UniqueProjectName::isTaken(name, _projectFiles(), qOverload<const QString&>(&QFileInfo::exists));
+    return UniqueProjectName::isTaken(name, _projectFiles(),
+                                      qOverload<const QString&>(&QFileInfo::exists));
 }
 
 QString CRkProjectManagerView::_getUniqueProjcetName(const QString& base) const

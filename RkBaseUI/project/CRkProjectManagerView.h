@@ -17,9 +17,9 @@ class ProjectFilter;
 class QGraphicsScene;
 struct ProjectRecord;
 
-/// The projects of the current user as tiles in rows. It is filled once, from the project files below the
-/// project root, when it is made; one tile at most is selected, and a filter hides the tiles that do not
-/// meet its conditions.
+/// The projects of the current user as tiles in rows. It is filled once, from the project files
+/// below the project root, when it is made; one tile at most is selected, and a filter hides the
+/// tiles that do not meet its conditions.
 ///
 ///     auto* view = new CRkProjectManagerView(page);
 ///     connect(view, &CRkProjectManagerView::projectOpened, this, &Page::openProject);
@@ -53,12 +53,15 @@ public slots:
     void slotDeleteProject();
 
     /// Shows the projects that meet all conditions, given as the filter bar shows them.
-    /// @param cityCondition a part of a place's name, or a placeholder ("City", "All") or empty for any
-    /// @param dateCondition a day in `DateFormat`, two days with "to" between, or "Date" or empty for any
+    /// @param cityCondition a part of a place's name, or a placeholder ("City", "All") or empty for
+    /// any
+    /// @param dateCondition a day in `DateFormat`, two days with "to" between, or "Date" or empty
+    /// for any
     /// @param sourceCondition not used
     /// @param keywordCondition a part of the project's name in any letter case; empty for any
     void slotFilterConditionChanged(const QString& cityCondition, const QString& dateCondition,
-                                    const QString& sourceCondition, const QString& keywordCondition);
+                                    const QString& sourceCondition,
+                                    const QString& keywordCondition);
     void slotOpenProject();
     void slotRenameProjectItem(const QString& newName);
 
@@ -69,13 +72,15 @@ protected:
 
 private:
     void LoadExistProjects();
-    CRkGraphicsProjectRectItem* AddProjectItem(const QString& defaultImage, const QString& projectFile,
-                                               bool isNew);
+    CRkGraphicsProjectRectItem* AddProjectItem(const QString& defaultImage,
+                                               const QString& projectFile, bool isNew);
     void LoadBlockGravityListForProject(CRkGraphicsProjectRectItem* tile);
-    bool isConditionPassed(const CRkGraphicsProjectRectItem* tile, const ProjectFilter& filter) const;
+    bool isConditionPassed(const CRkGraphicsProjectRectItem* tile,
+                           const ProjectFilter& filter) const;
 
     CRkGraphicsProjectRectItem* _addTile(const ProjectRecord& project, const QPixmap& pixmap);
     QPoint _calculateProjectItemPos(int index);
+    // NOLINTNEXTLINE(bugprone-reserved-identifier): private names begin with an underscore here.
     void _UnSelectOtherItem(CRkGraphicsProjectRectItem* tile);
     CRkGraphicsProjectRectItem* _getSelectedProjectItem() const;
     void _keepOneSelected();
@@ -85,8 +90,11 @@ private:
     QString _getUniqueProjcetName(const QString& base) const;
 
     std::unique_ptr<QGraphicsScene> m_scene;
-    QList<CRkGraphicsProjectRectItem*> m_tiles;        ///< In the order of their making.
-    QList<CRkGraphicsProjectRectItem*> m_visibleTiles; ///< Those that passed the last filter, and new ones.
+    /// All tiles in the order of their making.
+    QList<CRkGraphicsProjectRectItem*> m_tiles;
+    /// Those that passed the last filter, and newer ones.
+    QList<CRkGraphicsProjectRectItem*> m_visibleTiles;
     QString m_openedProjectName;
-    const QGraphicsItem* m_lastSelected = nullptr; ///< Only to be compared: it may be gone.
+    /// Only to be compared: it may be gone.
+    const QGraphicsItem* m_lastSelected = nullptr;
 };

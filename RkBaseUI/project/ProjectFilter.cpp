@@ -30,16 +30,19 @@ bool hasUsualShape(const QString& text)
     return true;
 }
 
-/// QDateTime::fromString(text, DateTimeSFormat). That call takes its format apart each time, which for
-/// thousands of projects at every keystroke can be felt; the usual form is therefore read directly.
+/// QDateTime::fromString(text, DateTimeSFormat). That call takes its format apart each time, which
+/// for thousands of projects at every keystroke can be felt; the usual form is therefore read
+/// directly.
 QDateTime parseModified(const QString& text)
 {
     static const bool usualFormat = DateTimeSFormat == QLatin1String("yyyy-MM-dd hh:mm:ss");
     if (usualFormat && hasUsualShape(text)) {
-        const auto number = [&text](int start, int length) { return text.midRef(start, length).toInt(); };
+        const auto number = [&text](int start, int length) {
+            return text.midRef(start, length).toInt();
+        };
         const QDate day(number(0, 4), number(5, 2), number(8, 2));
         const QTime hour(number(11, 2), number(14, 2), number(17, 2));
-        const QDateTime time(day, hour);
+        QDateTime time(day, hour);
         if (hour.isValid() && time.isValid())
             return time;
     }
@@ -56,7 +59,8 @@ QDateTime parseDay(const QString& text)
 ProjectFilter::ProjectFilter(const Conditions& conditions, const Words& words)
     : m_keyword(conditions.keyword)
 {
-    const QStringList noCity = {words.city, words.all, QStringLiteral("city"), QStringLiteral("all")};
+    const QStringList noCity = {words.city, words.all, QStringLiteral("city"),
+                                QStringLiteral("all")};
     if (!isAnyOf(conditions.city, noCity))
         m_city = conditions.city;
 
@@ -68,7 +72,7 @@ ProjectFilter::ProjectFilter(const Conditions& conditions, const Words& words)
 bool ProjectFilter::passes(const Project& project) const
 {
     return project.baseName.contains(m_keyword, Qt::CaseInsensitive) && passesDate(project.modified)
-           && passesCity(project.places);
+        && passesCity(project.places);
 }
 
 void ProjectFilter::parseDate(const QString& text, const Words& words)

@@ -7,8 +7,8 @@
 #include <QString>
 #include <QStringList>
 
-/// Which projects a filter lets pass. The conditions are the display texts of the filter bar; each is
-/// parsed once here, so that one filter serves any number of projects.
+/// Which projects a filter lets pass. The conditions are the display texts of the filter bar; each
+/// is parsed once here, so that one filter serves any number of projects.
 ///
 ///     const ProjectFilter filter({city, date, keyword}, words);
 ///     if (filter.passes({baseName, modified, places})) ...
@@ -23,7 +23,8 @@ public:
         QString keyword;
     };
 
-    /// The words of the filter bar in the user's language. The English words are understood beside them.
+    /// The words of the filter bar in the user's language. The English words are understood beside
+    /// them.
     struct Words
     {
         QString date = QStringLiteral("date");
@@ -43,9 +44,9 @@ public:
 
     ProjectFilter(const Conditions& conditions, const Words& words);
 
-    /// Whether the name contains the keyword in any letter case, the modification day lies in the date
-    /// condition, both ends included, and one place contains the city. A time that cannot be parsed is 0
-    /// days away from every other and so lies in every range of two parts.
+    /// Whether the name contains the keyword in any letter case, the modification day lies in the
+    /// date condition, both ends included, and one place contains the city. A time that cannot be
+    /// parsed is 0 days away from every other and so lies in every range of two parts.
     bool passes(const Project& project) const;
 
 private:

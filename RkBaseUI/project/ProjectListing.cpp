@@ -42,8 +42,9 @@ public:
         m_cities.insert(city);
         append(city);
         const QMap<QString, QStringList>& provinces = catalogue.provinceToCities();
-        const auto province = std::find_if(provinces.begin(), provinces.end(),
-                                           [&](const QStringList& cities) { return cities.contains(city); });
+        const auto province =
+            std::find_if(provinces.begin(), provinces.end(),
+                         [&](const QStringList& cities) { return cities.contains(city); });
         if (province != provinces.end())
             append(province.key());
     }
@@ -66,7 +67,8 @@ QStringList placesOfOutlines(CRkDataBase& database, const QString& projectId)
     PlaceList list;
     QSqlQuery outlines = database.exec(ProjectStoreSql::selectOutlines(projectId));
     while (outlines.next()) {
-        const CRkVector3D centre = GetLatLngGravityByLatLng(parseOutline(outlines.value(0).toString()));
+        const CRkVector3D centre =
+            GetLatLngGravityByLatLng(parseOutline(outlines.value(0).toString()));
         list.addPlaceOf(PointLatLng(centre.x(), centre.y()));
     }
     return list.places();
@@ -82,10 +84,11 @@ bool readRow(CRkDataBase& database, const QString& userId, ProjectRecord& projec
         return false;
 
     const QSqlRecord columns = query.record();
-    const std::array<int, 5> index = {
-        columns.indexOf(QStringLiteral("project_name")), columns.indexOf(QStringLiteral("updated_at")),
-        columns.indexOf(QStringLiteral("id")), columns.indexOf(QStringLiteral("software_version")),
-        columns.indexOf(QStringLiteral("image_data"))};
+    const std::array<int, 5> index = {columns.indexOf(QStringLiteral("project_name")),
+                                      columns.indexOf(QStringLiteral("updated_at")),
+                                      columns.indexOf(QStringLiteral("id")),
+                                      columns.indexOf(QStringLiteral("software_version")),
+                                      columns.indexOf(QStringLiteral("image_data"))};
     if (std::find(index.begin(), index.end(), -1) != index.end())
         return false;
     project.name = query.value(index[0]).toString();
@@ -93,8 +96,8 @@ bool readRow(CRkDataBase& database, const QString& userId, ProjectRecord& projec
     project.id = query.value(index[2]).toString();
     project.softwareVersion = query.value(index[3]).toString();
     const QVariant image = query.value(index[4]);
-    project.imageData = image.type() == QVariant::ByteArray ? image.toByteArray()
-                                                            : image.toString().toLatin1();
+    project.imageData =
+        image.type() == QVariant::ByteArray ? image.toByteArray() : image.toString().toLatin1();
     return true;
 }
 
@@ -140,11 +143,12 @@ QStringList projectFiles(const QString& root)
 {
     QStringList files;
     const QDir rootFolder(root);
-    const QStringList folders = rootFolder.entryList(QDir::AllDirs | QDir::NoDotAndDotDot, QDir::Unsorted);
+    const QStringList folders =
+        rootFolder.entryList(QDir::AllDirs | QDir::NoDotAndDotDot, QDir::Unsorted);
     for (const QString& name : folders) {
         const QDir folder(rootFolder.filePath(name));
-        const QStringList projects = folder.entryList({QStringLiteral("*.proj")}, QDir::Files,
-                                                      QDir::Unsorted);
+        const QStringList projects =
+            folder.entryList({QStringLiteral("*.proj")}, QDir::Files, QDir::Unsorted);
         for (const QString& project : projects)
             files.append(folder.filePath(project));
     }
@@ -162,7 +166,8 @@ std::optional<ProjectRecord> create(const QString& file, const QString& userId)
     return load(QFileInfo(file), userId, true);
 }
 
-BlockPlaces loadBlocks(const QString& file, const QString& projectId, const QString& softwareVersion)
+BlockPlaces loadBlocks(const QString& file, const QString& projectId,
+                       const QString& softwareVersion)
 {
     CRkDataBase database(file);
     if (!database.open())

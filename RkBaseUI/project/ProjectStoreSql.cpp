@@ -29,10 +29,10 @@ QString insertProject(const NewProject& project)
 {
     const QString firstVersion = QStringLiteral("1");
     return "INSERT INTO " + ProjectTableName
-           + " (project_name,id,user_id,created_at,version,updated_at,software_version) "
-           + QStringLiteral("VALUES ('%1','%2','%3','%4','%5','%6','%7')")
-                 .arg(project.name, project.id, project.userId, project.now, firstVersion, project.now,
-                      VANTRELL_VERSION);
+        + " (project_name,id,user_id,created_at,version,updated_at,software_version) "
+        + QStringLiteral("VALUES ('%1','%2','%3','%4','%5','%6','%7')")
+              .arg(project.name, project.id, project.userId, project.now, firstVersion, project.now,
+                   VANTRELL_VERSION);
 }
 
 QString selectComputedTables()
@@ -40,8 +40,9 @@ QString selectComputedTables()
     const QString project = quoted(ProjectTableName);
     const QString areas = quoted(SurveyAreaTableName);
     return "select 1 from sqlite_master where name collate nocase in (" + project + "," + areas
-           + ") and rootpage=0 union all select 1 from pragma_table_xinfo(" + project
-           + ") where hidden>1 union all select 1 from pragma_table_xinfo(" + areas + ") where hidden>1";
+        + ") and rootpage=0 union all select 1 from pragma_table_xinfo(" + project
+        + ") where hidden>1 union all select 1 from pragma_table_xinfo(" + areas
+        + ") where hidden>1";
 }
 
 QString selectProject(const QString& userId)
@@ -52,18 +53,19 @@ QString selectProject(const QString& userId)
 QString selectOutlines(const QString& projectId)
 {
     return "select survey_area_coordinate_points from " + SurveyAreaTableName
-           + " where project_id=" + quoted(projectId);
+        + " where project_id=" + quoted(projectId);
 }
 
 QString selectBlocks(const QString& projectId)
 {
     return "select survey_area_guid, survey_area_name, camera_type from " + SurveyAreaTableName
-           + " where project_id = " + quoted(projectId);
+        + " where project_id = " + quoted(projectId);
 }
 
 QStringList rewriteIdentifiers(const QString& newName, const CopyIdentifiers& identifiers)
 {
-    const QString missionId = "UPDATE " + MissionTableName + " SET id=" + quoted(identifiers.mission);
+    const QString missionId =
+        "UPDATE " + MissionTableName + " SET id=" + quoted(identifiers.mission);
     return {
         "UPDATE " + ProjectTableName + " SET id = " + quoted(identifiers.project),
         "UPDATE " + ProjectTableName + " SET project_name = " + quoted(newName),
@@ -87,7 +89,8 @@ QStringList updateRenamed(const QString& newName, const QString& version, const 
     return {
         "UPDATE " + ProjectTableName + " SET project_name = " + quoted(newName),
         "UPDATE " + ProjectTableName + " SET version=" + version,
-        // The time stands without quotes. SQLite refuses a date with a time so, and the old one stays.
+        // The time stands without quotes. SQLite refuses a date with a time so, and the old one
+        // stays.
         "UPDATE " + ProjectTableName + " SET updated_at=" + now,
     };
 }

@@ -7,8 +7,8 @@
 #include <QStringList>
 
 /// Every SQL statement that the project manager sends to a project file. The texts are the store's
-/// interface: other programs write and read the same files. Values go between single quotes as they are,
-/// neither escaped nor bound; a statement that a value breaks fails and changes nothing.
+/// interface: other programs write and read the same files. Values go between single quotes as they
+/// are, neither escaped nor bound; a statement that a value breaks fails and changes nothing.
 namespace ProjectStoreSql {
 
 /// The row of a new project. Times are in `DateTimeSFormat`.
@@ -33,11 +33,12 @@ QStringList createTables();
 
 QString insertProject(const NewProject& project);
 
-/// Gives a row when a table that the listing reads is a view or a virtual table, or has a generated column.
-/// Such a file, however small, can answer with rows without end or values of any size.
+/// Gives a row when a table that the listing reads is a view or a virtual table, or has a generated
+/// column. Such a file, however small, can answer with rows without end or values of any size.
 QString selectComputedTables();
 
-/// The project row of a user. Read by name: project_name, updated_at, id, software_version, image_data.
+/// The project row of a user. Read by name: project_name, updated_at, id, software_version,
+/// image_data.
 QString selectProject(const QString& userId);
 
 /// One outline a row (see OutlineText.h).
@@ -46,7 +47,8 @@ QString selectOutlines(const QString& projectId);
 /// survey_area_guid, survey_area_name and camera_type of each survey area.
 QString selectBlocks(const QString& projectId);
 
-/// Makes a copied file a project of its own, in the order of sending. Every row of a table is rewritten.
+/// Makes a copied file a project of its own, in the order of sending. Every row of a table is
+/// rewritten.
 QStringList rewriteIdentifiers(const QString& newName, const CopyIdentifiers& identifiers);
 
 /// The version counter, a number stored as text.

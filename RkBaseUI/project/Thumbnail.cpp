@@ -29,8 +29,8 @@ void handleMessage(QtMsgType type, const QMessageLogContext& context, const QStr
         handlerBefore.load()(type, context, message);
 }
 
-/// Image decoders print a warning for every damaged picture. While one of these lives, what its thread
-/// would print is dropped; other threads print as before.
+/// Image decoders print a warning for every damaged picture. While one of these lives, what its
+/// thread would print is dropped; other threads print as before.
 class QuietThread
 {
 public:
@@ -49,7 +49,7 @@ public:
             return;
         const QtMessageHandler handler = qInstallMessageHandler(handlerBefore);
         if (handler != handleMessage)
-            qInstallMessageHandler(handler); // Somebody has put in another one meanwhile.
+            qInstallMessageHandler(handler); // Somebody put in another one meanwhile.
     }
     Q_DISABLE_COPY(QuietThread)
 
@@ -82,9 +82,9 @@ bool isLetter(char character)
     return (character >= 'A' && character <= 'Z') || (character >= 'a' && character <= 'z');
 }
 
-/// False for a PNG file with a chunk that its decoder would stop at, which then prints past every message
-/// handler. A chunk is length, type, data and checksum; only those of a critical type, which begins with a
-/// capital, must have a right checksum.
+/// False for a PNG file with a chunk that its decoder would stop at, which then prints past every
+/// message handler. A chunk is length, type, data and checksum; only those of a critical type,
+/// which begins with a capital, must have a right checksum.
 bool isWhole(const QByteArray& file)
 {
     if (!file.startsWith("\x89PNG\r\n\x1A\n"))
@@ -137,8 +137,8 @@ QImage decode(const QByteArray& base64)
     if (image.isNull())
         return {};
     // In the order of a pixmap: its own format first, so that scaling sees the same pixels.
-    const QImage::Format format = image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied
-                                                          : QImage::Format_RGB32;
+    const QImage::Format format =
+        image.hasAlphaChannel() ? QImage::Format_ARGB32_Premultiplied : QImage::Format_RGB32;
     return image.convertToFormat(format).scaled(width, height);
 }
 

@@ -25,12 +25,12 @@ public:
     ~ThumbnailQueue();
     Q_DISABLE_COPY(ThumbnailQueue)
 
-    /// Puts a picture in (see Thumbnail.h). When the others cannot keep up, decodes one itself, so that
-    /// little waits in memory.
+    /// Puts a picture in (see Thumbnail.h). When the others cannot keep up, decodes one itself, so
+    /// that little waits in memory.
     void add(const QByteArray& base64);
 
-    /// Decodes what is left, together with the others, and gives every image in the order of `add`; a
-    /// null image for what is no picture. The queue is empty then.
+    /// Decodes what is left, together with the others, and gives every image in the order of `add`;
+    /// a null image for what is no picture. The queue is empty then.
     std::deque<QImage> takeImages();
 
 private:
@@ -48,7 +48,8 @@ private:
     std::mutex m_mutex;
     std::condition_variable m_changed;
     std::deque<Job> m_jobs;
-    std::deque<QImage> m_images; ///< A deque, because its elements stay where they are while it grows.
+    /// A deque, because its elements stay where they are while it grows.
+    std::deque<QImage> m_images;
     std::vector<std::thread> m_workers;
     bool m_complete = false;
 };

@@ -5,7 +5,8 @@
 
 #include <QPoint>
 
-/// Where the tiles of the project view stand: rows from the left, as many columns as the view is wide.
+/// Where the tiles of the project view stand: rows from the left, as many columns as the view is
+/// wide.
 namespace TileGrid {
 
 /// Columns of a view `viewWidth` pixels wide; at least one.

@@ -7,9 +7,9 @@
 
 #include <functional>
 
-/// Names of projects against the files that a view shows, in the view's order. A project is known by its
-/// file's complete base name. The files count up to the first one that no longer exists; what stands
-/// behind it is not looked at.
+/// Names of projects against the files that a view shows, in the view's order. A project is known
+/// by its file's complete base name. The files count up to the first one that no longer exists;
+/// what stands behind it is not looked at.
 namespace UniqueProjectName {
 
 using FileExists = std::function<bool(const QString& file)>;

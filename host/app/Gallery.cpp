@@ -21,7 +21,8 @@ constexpr int longestWait = 5000; // Milliseconds.
 void showAndActivate(QWidget& window)
 {
     window.show();
-    // Without a window manager nobody else makes a window active, and only an active one has a focus.
+    // Without a window manager nobody else makes a window active, and only an active one has a
+    // focus.
     QApplication::setActiveWindow(&window);
     const QDeadlineTimer deadline(longestWait);
     while (!window.windowHandle()->isExposed() && !deadline.hasExpired())
@@ -62,8 +63,8 @@ bool isBlank(const QImage& image)
     return true;
 }
 
-bool render(const QVector<Entry>& entries, const QString& folder, const QString& language, QTextStream& out,
-            QTextStream& errors)
+bool render(const QVector<Entry>& entries, const QString& folder, const QString& language,
+            QTextStream& out, QTextStream& errors)
 {
     if (!QDir().mkpath(folder)) {
         errors << "Cannot make the folder " << folder << Qt::endl;

@@ -25,18 +25,18 @@ struct Entry
     std::function<void(QWidget& window)> prepare;
 };
 
-/// A picture with fewer distinct colours than this shows nothing: even one word in black on white has
-/// more, from the smoothing of its edges.
+/// A picture with fewer distinct colours than this shows nothing: even one word in black on white
+/// has more, from the smoothing of its edges.
 constexpr int fewestColours = 16;
 
 /// Whether the picture has fewer than `fewestColours` distinct colours, or no pixels.
 bool isBlank(const QImage& image);
 
-/// Writes `<name>_<language>_<scale>x.png` for every entry into the folder, which is made when it is
-/// missing, and prints the path of each on a line of its own. The scale is that of the screen.
+/// Writes `<name>_<language>_<scale>x.png` for every entry into the folder, which is made when it
+/// is missing, and prints the path of each on a line of its own. The scale is that of the screen.
 ///
 /// @return whether every picture was written and none is blank; what is wrong goes to `errors`
-bool render(const QVector<Entry>& entries, const QString& folder, const QString& language, QTextStream& out,
-            QTextStream& errors);
+bool render(const QVector<Entry>& entries, const QString& folder, const QString& language,
+            QTextStream& out, QTextStream& errors);
 
 } // namespace Gallery

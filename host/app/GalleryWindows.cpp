@@ -17,6 +17,7 @@
 #include <QGraphicsScene>
 #include <QLabel>
 #include <QLineEdit>
+#include <QMap>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTextCursor>
@@ -51,15 +52,21 @@ CRkProjectManagerView& viewOf(QWidget& window)
     return *window.findChild<CRkProjectManagerView*>();
 }
 
-/// The tile in the corner where reading begins.
-CRkGraphicsProjectRectItem& firstTile(QWidget& window)
+QList<CRkGraphicsProjectRectItem*> tilesOf(QWidget& window)
 {
-    const QList<QGraphicsItem*> items = viewOf(window).scene()->items();
     QList<CRkGraphicsProjectRectItem*> tiles;
+    const QList<QGraphicsItem*> items = viewOf(window).scene()->items();
     for (QGraphicsItem* item : items) {
         if (auto* tile = dynamic_cast<CRkGraphicsProjectRectItem*>(item))
             tiles.append(tile);
     }
+    return tiles;
+}
+
+/// The tile in the corner where reading begins.
+CRkGraphicsProjectRectItem& firstTile(QWidget& window)
+{
+    const QList<CRkGraphicsProjectRectItem*> tiles = tilesOf(window);
     Q_ASSERT(!tiles.isEmpty());
     return **std::min_element(tiles.cbegin(), tiles.cend(), [](const auto* a, const auto* b) {
         return a->y() < b->y() || (a->y() == b->y() && a->x() < b->x());
@@ -84,13 +91,20 @@ void editFirstCaption(QWidget& window)
 
 void filterByKeyword(QWidget& window)
 {
-    viewOf(window).slotFilterConditionChanged(QString(), QString(), QString(), QStringLiteral("1-"));
+    viewOf(window).slotFilterConditionChanged(QString(), QString(), QString(),
+                                              QStringLiteral("1-"));
 }
 
+/// The place with most projects.
 void filterByCity(QWidget& window)
 {
-    const QString city = firstTile(window).GetProvinceCityList().value(0);
-    viewOf(window).slotFilterConditionChanged(city, QString(), QString(), QString());
+    QMap<QString, int> counts;
+    for (const CRkGraphicsProjectRectItem* tile : tilesOf(window)) {
+        for (const QString& place : tile->GetProvinceCityList())
+            ++counts[place];
+    }
+    const auto most = std::max_element(counts.cbegin(), counts.cend());
+    viewOf(window).slotFilterConditionChanged(most.key(), QString(), QString(), QString());
 }
 
 Window hostWindow()
@@ -145,7 +159,8 @@ void hover(QWidget& window, const char* button)
 {
     auto* widget = window.findChild<QPushButton*>(QLatin1String(button));
     widget->setAttribute(Qt::WA_UnderMouse);
-    QMouseEvent move(QEvent::MouseMove, widget->rect().center(), Qt::NoButton, Qt::NoButton, Qt::NoModifier);
+    QMouseEvent move(QEvent::MouseMove, widget->rect().center(), Qt::NoButton, Qt::NoButton,
+                     Qt::NoModifier);
     QCoreApplication::sendEvent(widget, &move);
 }
 

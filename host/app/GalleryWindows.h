@@ -5,6 +5,6 @@
 
 #include "app/Gallery.h"
 
-/// Every window of the library and of the host, each in the states that look different. Needs projects
-/// below the project root.
+/// Every window of the library and of the host, each in the states that look different. Needs
+/// projects below the project root.
 QVector<Gallery::Entry> galleryWindows();

@@ -47,7 +47,8 @@ void installLanguage(const QString& language)
     QCoreApplication* application = QCoreApplication::instance();
     // Menus of text fields and the like; not every system brings them.
     auto* toolkit = new QTranslator(application);
-    if (toolkit->load(QStringLiteral("qtbase_zh_CN"), QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
+    if (toolkit->load(QStringLiteral("qtbase_zh_CN"),
+                      QLibraryInfo::location(QLibraryInfo::TranslationsPath)))
         QCoreApplication::installTranslator(toolkit);
     for (const char* name : {"RkBaseUI_zh_CN", "RkSurveyHost_zh_CN"}) {
         QTranslator* translator = CreateTranslator(QString::fromLatin1(name));

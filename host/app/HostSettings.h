@@ -17,8 +17,8 @@ void setCurrentUser(const QString& userId);
 /// Whether this system keeps native settings in files, so that `useFolder` works.
 bool canUseFolder();
 
-/// Keeps all settings of this process in files below the folder, away from those of the person who runs
-/// it. Call before the first settings are read.
+/// Keeps all settings of this process in files below the folder, away from those of the person who
+/// runs it. Call before the first settings are read.
 void useFolder(const QString& folder);
 
 /// Installs the texts of library, host and toolkit in a language, "zh_CN" or "en".

@@ -34,7 +34,8 @@ const char* const headerStyle = R"(
 #header QLabel { color: white; font-size: 17px; font-weight: 600; }
 #header QLineEdit {
     color: rgb(230, 238, 250); background-color: rgb(19, 41, 74); padding-left: 8px;
-    border: 1px solid rgb(52, 78, 118); border-radius: 3px; selection-background-color: rgb(58, 136, 244);
+    border: 1px solid rgb(52, 78, 118); border-radius: 3px;
+    selection-background-color: rgb(58, 136, 244);
 }
 #header QLineEdit:focus { border-color: rgb(58, 136, 244); }
 #header QPushButton {
@@ -51,7 +52,9 @@ const char* const pageStyleText = R"(
 #page CRkProjectManagerView { background-color: rgb(240, 240, 240); border: none; }
 #page QLabel { color: rgb(110, 120, 136); font-size: 16px; }
 #page QScrollBar { background: transparent; width: 10px; margin: 0; }
-#page QScrollBar::handle { background: rgb(198, 205, 216); border-radius: 4px; min-height: 40px; margin: 1px; }
+#page QScrollBar::handle {
+    background: rgb(198, 205, 216); border-radius: 4px; min-height: 40px; margin: 1px;
+}
 #page QScrollBar::handle:hover { background: rgb(160, 170, 186); }
 #page QScrollBar::add-line, #page QScrollBar::sub-line { height: 0; }
 #page QScrollBar::add-page, #page QScrollBar::sub-page { background: transparent; }
@@ -71,7 +74,8 @@ QPalette darkPalette()
     QPalette palette;
     for (const QPalette::ColorRole role : {QPalette::Window, QPalette::Base, QPalette::Button})
         palette.setColor(role, field);
-    for (const QPalette::ColorRole role : {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
+    for (const QPalette::ColorRole role :
+         {QPalette::WindowText, QPalette::Text, QPalette::ButtonText})
         palette.setColor(role, text);
     palette.setColor(QPalette::PlaceholderText, QColor(140, 162, 194));
     palette.setColor(QPalette::Highlight, QColor(58, 136, 244));
@@ -83,7 +87,8 @@ QPalette darkPalette()
 QString lastDays(int days)
 {
     const QDate today = QDate::currentDate();
-    return QStringLiteral("%1 to %2").arg(today.addDays(-days).toString(DateFormat), today.toString(DateFormat));
+    return QStringLiteral("%1 to %2")
+        .arg(today.addDays(-days).toString(DateFormat), today.toString(DateFormat));
 }
 
 } // namespace
@@ -103,8 +108,10 @@ HostWindow::HostWindow(QWidget* parent)
     setCentralWidget(content);
     makeStatusBar();
 
-    connect(m_place, qOverload<int>(&QComboBox::currentIndexChanged), this, &HostWindow::applyFilter);
-    connect(m_date, qOverload<int>(&QComboBox::currentIndexChanged), this, &HostWindow::applyFilter);
+    connect(m_place, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            &HostWindow::applyFilter);
+    connect(m_date, qOverload<int>(&QComboBox::currentIndexChanged), this,
+            &HostWindow::applyFilter);
     connect(m_keyword, &QLineEdit::textChanged, this, &HostWindow::applyFilter);
     connect(m_view, &CRkProjectManagerView::projectOpened, this, &HostWindow::showOpened);
     m_view->setFocus();
@@ -208,8 +215,9 @@ void HostWindow::fillDates()
 
 void HostWindow::applyFilter()
 {
-    m_view->slotFilterConditionChanged(m_place->currentData().toString(), m_date->currentData().toString(),
-                                       QString(), m_keyword->text());
+    m_view->slotFilterConditionChanged(m_place->currentData().toString(),
+                                       m_date->currentData().toString(), QString(),
+                                       m_keyword->text());
     updateCount();
 }
 

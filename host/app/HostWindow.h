@@ -10,8 +10,8 @@ class QComboBox;
 class QLabel;
 class QLineEdit;
 
-/// The main window of the survey application: the projects of the current user as tiles, with a bar above
-/// that makes a project and filters by place, date and name.
+/// The main window of the survey application: the projects of the current user as tiles, with a bar
+/// above that makes a project and filters by place, date and name.
 ///
 ///     HostSettings::setCurrentUser(userId);
 ///     HostWindow window;

@@ -29,15 +29,20 @@ void addOptions(QCommandLineParser& parser)
 {
     parser.setApplicationDescription(QStringLiteral("Plans and manages aerial surveys."));
     parser.addHelpOption();
-    parser.addOption({QStringLiteral("projects"), QStringLiteral("Folder of the projects."), QStringLiteral("DIR")});
-    parser.addOption({QStringLiteral("user"), QStringLiteral("Show the projects of this user; the settings keep it."),
-                      QStringLiteral("ID"), sampleUserId()});
-    parser.addOption({QStringLiteral("gallery"),
-                      QStringLiteral("Write a picture of every window into a folder and exit. Sample projects "
-                                     "and settings of its own are used."),
+    parser.addOption({QStringLiteral("projects"), QStringLiteral("Folder of the projects."),
                       QStringLiteral("DIR")});
-    parser.addOption({QStringLiteral("scale"), QStringLiteral("Scale of the user interface."), QStringLiteral("FACTOR")});
-    parser.addOption({QStringLiteral("lang"), QStringLiteral("zh_CN or en; that of the system unless given."),
+    parser.addOption({QStringLiteral("user"),
+                      QStringLiteral("Show the projects of this user; the settings keep it."),
+                      QStringLiteral("ID"), sampleUserId()});
+    parser.addOption(
+        {QStringLiteral("gallery"),
+         QStringLiteral("Write a picture of every window into a folder and exit. Sample projects "
+                        "and settings of its own are used."),
+         QStringLiteral("DIR")});
+    parser.addOption({QStringLiteral("scale"), QStringLiteral("Scale of the user interface."),
+                      QStringLiteral("FACTOR")});
+    parser.addOption({QStringLiteral("lang"),
+                      QStringLiteral("zh_CN or en; that of the system unless given."),
                       QStringLiteral("LANGUAGE")});
 }
 
@@ -53,13 +58,15 @@ QStringList argumentList(int argc, char* argv[])
 QFont applicationFont()
 {
     QFont font = QApplication::font();
-    font.setFamilies({font.family(), QStringLiteral("Noto Sans CJK SC"), QStringLiteral("Microsoft YaHei")});
+    font.setFamilies(
+        {font.family(), QStringLiteral("Noto Sans CJK SC"), QStringLiteral("Microsoft YaHei")});
     return font;
 }
 
 QString systemLanguage()
 {
-    return QLocale::system().language() == QLocale::Chinese ? QStringLiteral("zh_CN") : QStringLiteral("en");
+    return QLocale::system().language() == QLocale::Chinese ? QStringLiteral("zh_CN")
+                                                            : QStringLiteral("en");
 }
 
 int runGallery(const Options& options)
@@ -85,7 +92,8 @@ int runGallery(const Options& options)
         return 1;
     }
     QApplication::setCursorFlashTime(0);
-    return Gallery::render(galleryWindows(), options.gallery, options.language, out, errors) ? 0 : 1;
+    return Gallery::render(galleryWindows(), options.gallery, options.language, out, errors) ? 0
+                                                                                             : 1;
 }
 
 int runWindow(const Options& options)
@@ -104,7 +112,8 @@ bool understand(QCommandLineParser& parser, const QStringList& arguments)
     if (!parser.parse(arguments) || !parser.positionalArguments().isEmpty())
         return false;
     const QString language = parser.value(QStringLiteral("lang"));
-    if (parser.isSet(QStringLiteral("lang")) && language != QLatin1String("zh_CN") && language != QLatin1String("en"))
+    if (parser.isSet(QStringLiteral("lang")) && language != QLatin1String("zh_CN")
+        && language != QLatin1String("en"))
         return false;
     if (!parser.isSet(QStringLiteral("scale")))
         return true;
@@ -124,7 +133,8 @@ int main(int argc, char* argv[])
     if (!isUnderstood || parser.isSet(QStringLiteral("help"))) {
         const QCoreApplication application(argc, argv); // Help needs no display.
         QTextStream(isUnderstood ? stdout : stderr)
-            << (isUnderstood ? QString() : parser.errorText() + QLatin1Char('\n')) << parser.helpText();
+            << (isUnderstood ? QString() : parser.errorText() + QLatin1Char('\n'))
+            << parser.helpText();
         return isUnderstood ? 0 : 2;
     }
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);

@@ -15,8 +15,8 @@
 
 namespace {
 
-/// A new SQLite file that is written in one transaction. The first failure is remembered; what follows it
-/// is left out.
+/// A new SQLite file that is written in one transaction. The first failure is remembered; what
+/// follows it is left out.
 class Writer
 {
 public:
@@ -50,12 +50,13 @@ public:
 
     void insert(const QString& table, const QStringList& columns, const QVariantList& values)
     {
-        const QString places = QStringList(QVector<QString>(columns.size(), QStringLiteral("?")).toList())
-                                   .join(QLatin1Char(','));
+        const QString places =
+            QStringList(QVector<QString>(columns.size(), QStringLiteral("?")).toList())
+                .join(QLatin1Char(','));
         QSqlQuery query(m_database);
         m_isSound = m_isSound
-                    && query.prepare(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
-                                         .arg(table, columns.join(QLatin1Char(',')), places));
+            && query.prepare(QStringLiteral("INSERT INTO %1 (%2) VALUES (%3)")
+                                 .arg(table, columns.join(QLatin1Char(',')), places));
         for (const QVariant& value : values)
             query.addBindValue(value);
         m_isSound = m_isSound && query.exec();
@@ -82,30 +83,37 @@ private:
 
 void insertProject(Writer& writer, const SampleContent& content)
 {
-    const QStringList columns = {
-        QStringLiteral("id"),           QStringLiteral("project_name"),
-        QStringLiteral("user_id"),      QStringLiteral("created_at"),
-        QStringLiteral("updated_at"),   QStringLiteral("version"),
-        QStringLiteral("map_scale"),    QStringLiteral("software_version"),
-        QStringLiteral("center_position_lat"), QStringLiteral("center_position_lng"),
-        QStringLiteral("image_data")};
-    const QVariant image = content.imageData.isEmpty() ? QVariant(QVariant::String)
-                                                       : QVariant(QString::fromLatin1(content.imageData));
-    writer.insert(ProjectTableName, columns,
-                  {content.id, content.name, content.userId, content.created.toString(DateTimeSFormat),
-                   content.modified.toString(DateTimeSFormat), QString::number(content.version),
-                   content.mapScale, VANTRELL_VERSION, content.centre.Lat(), content.centre.Lng(), image});
+    const QStringList columns = {QStringLiteral("id"),
+                                 QStringLiteral("project_name"),
+                                 QStringLiteral("user_id"),
+                                 QStringLiteral("created_at"),
+                                 QStringLiteral("updated_at"),
+                                 QStringLiteral("version"),
+                                 QStringLiteral("map_scale"),
+                                 QStringLiteral("software_version"),
+                                 QStringLiteral("center_position_lat"),
+                                 QStringLiteral("center_position_lng"),
+                                 QStringLiteral("image_data")};
+    const QVariant image = content.imageData.isEmpty()
+        ? QVariant(QVariant::String)
+        : QVariant(QString::fromLatin1(content.imageData));
+    writer.insert(
+        ProjectTableName, columns,
+        {content.id, content.name, content.userId, content.created.toString(DateTimeSFormat),
+         content.modified.toString(DateTimeSFormat), QString::number(content.version),
+         content.mapScale, VANTRELL_VERSION, content.centre.Lat(), content.centre.Lng(), image});
 }
 
 void insertBlock(Writer& writer, const QString& projectId, const SampleBlock& block)
 {
     writer.insert(SurveyAreaTableName,
-                  {QStringLiteral("id"), QStringLiteral("survey_area_guid"), QStringLiteral("project_id"),
-                   QStringLiteral("survey_area_name"), QStringLiteral("camera_type"),
-                   QStringLiteral("plane_type"), QStringLiteral("block_type"),
-                   QStringLiteral("survey_area_coordinate_points")},
-                  {block.id, block.id, projectId, block.name, GetCameraStringByType(block.cameraType),
-                   GetPlaneStringByType(block.planeType), int(block.type), block.outline});
+                  {QStringLiteral("id"), QStringLiteral("survey_area_guid"),
+                   QStringLiteral("project_id"), QStringLiteral("survey_area_name"),
+                   QStringLiteral("camera_type"), QStringLiteral("plane_type"),
+                   QStringLiteral("block_type"), QStringLiteral("survey_area_coordinate_points")},
+                  {block.id, block.id, projectId, block.name,
+                   GetCameraStringByType(block.cameraType), GetPlaneStringByType(block.planeType),
+                   int(block.type), block.outline});
     for (const SampleTask& task : block.tasks) {
         writer.insert(MissionTableName,
                       {QStringLiteral("id"), QStringLiteral("flight_task_guid"),
@@ -146,10 +154,11 @@ bool writeFlights(const QString& file, const QVector<SampleBlock>& blocks)
     for (const SampleBlock& block : blocks) {
         for (const SampleTask& task : block.tasks) {
             for (const QDateTime& flight : task.flights) {
-                writer.insert(FlightMissionTableName,
-                              {QStringLiteral("id"), QStringLiteral("flight_task_id"),
-                               QStringLiteral("flown_at")},
-                              {QString::number(++number), task.id, flight.toString(DateTimeSFormat)});
+                writer.insert(
+                    FlightMissionTableName,
+                    {QStringLiteral("id"), QStringLiteral("flight_task_id"),
+                     QStringLiteral("flown_at")},
+                    {QString::number(++number), task.id, flight.toString(DateTimeSFormat)});
             }
         }
     }
@@ -167,6 +176,6 @@ bool wasFlown(const SampleBlock& block)
 bool writeSampleFiles(const QString& projectFile, const SampleContent& content)
 {
     return writeProject(projectFile, content)
-           && (std::none_of(content.blocks.cbegin(), content.blocks.cend(), wasFlown)
-               || writeFlights(CRkControl::GetFlightMissionFilePath(projectFile), content.blocks));
+        && (std::none_of(content.blocks.cbegin(), content.blocks.cend(), wasFlown)
+            || writeFlights(CRkControl::GetFlightMissionFilePath(projectFile), content.blocks));
 }

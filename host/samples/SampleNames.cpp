@@ -16,7 +16,7 @@ struct Vocabulary
     QStringList areaProducts;
     QStringList corridors;
     QStringList corridorProducts;
-    QString pattern;     ///< Place, object, product.
+    QString pattern; ///< Place, object, product.
     QString longPattern; ///< The same for a long name.
 };
 
@@ -24,22 +24,26 @@ const Vocabulary& vocabulary(SampleLanguage language)
 {
     static const Vocabulary english = {
         {"North New Town", "Old Town", "Airport Clearance Zone", "Industrial Park", "Reservoir",
-         "Open-pit Mine", "Wetland Park", "Forest Park", "Terraced Fields", "High-tech Zone", "Landfill",
-         "Limestone Quarry", "Logistics Park", "University Campus", "Solar Farm", "Flood Plain"},
+         "Open-pit Mine", "Wetland Park", "Forest Park", "Terraced Fields", "High-tech Zone",
+         "Landfill", "Limestone Quarry", "Logistics Park", "University Campus", "Solar Farm",
+         "Flood Plain"},
         {"Cadastral Survey 1-500", "3D Model", "Orthophoto %1", "Oblique Photography",
-         "Topographic Map 1-1000", "Land Use Update %1", "Digital Surface Model", "Change Detection %1"},
+         "Topographic Map 1-1000", "Land Use Update %1", "Digital Surface Model",
+         "Change Detection %1"},
         {"Ring Expressway", "220 kV Power Line", "Main Canal", "River Embankment", "Gas Pipeline",
          "Railway Corridor", "National Highway", "Bypass Road"},
-        {"Strip Survey 1-2000", "Corridor Mapping", "Widening Survey", "Inspection %1", "Orthophoto %1"},
+        {"Strip Survey 1-2000", "Corridor Mapping", "Widening Survey", "Inspection %1",
+         "Orthophoto %1"},
         "%1 %2 %3",
         "%1 %2 %3 and Digital Surface Model Update, Phase 2, Lot 3 (re-flight)"};
     static const Vocabulary chinese = {
-        {"滨江新区", "老城区", "机场净空区", "高新技术产业园", "水库库区", "露天矿区", "湿地公园", "森林公园",
-         "高标准农田", "大学城", "物流园区", "石灰石矿山", "光伏电站", "高铁站片区", "填埋场", "棚改片区"},
-        {"地籍调查", "实景三维建模", "%1年正射影像", "变化监测", "1比500地形图测绘", "1比2000地形图测绘",
-         "国土变更调查", "倾斜摄影"},
-        {"绕城高速", "220千伏输电线路", "引水干渠", "沿江防洪堤", "天然气管线", "铁路专用线", "国道改扩建",
-         "快速路"},
+        {"滨江新区", "老城区", "机场净空区", "高新技术产业园", "水库库区", "露天矿区", "湿地公园",
+         "森林公园", "高标准农田", "大学城", "物流园区", "石灰石矿山", "光伏电站", "高铁站片区",
+         "填埋场", "棚改片区"},
+        {"地籍调查", "实景三维建模", "%1年正射影像", "变化监测", "1比500地形图测绘",
+         "1比2000地形图测绘", "国土变更调查", "倾斜摄影"},
+        {"绕城高速", "220千伏输电线路", "引水干渠", "沿江防洪堤", "天然气管线", "铁路专用线",
+         "国道改扩建", "快速路"},
         {"带状地形图测绘", "线路巡检", "勘察测量", "%1年正射影像", "沿线三维建模"},
         "%1%2%3",
         "%1%2%3及数字表面模型更新项目（二期第三标段补飞）"};

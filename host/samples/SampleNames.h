@@ -8,22 +8,20 @@
 
 class QRandomGenerator;
 
-enum class SampleLanguage
-{
-    English,
-    Chinese
-};
+enum class SampleLanguage { English, Chinese };
 
-/// Invents names of projects as surveyors write them: a place, what is surveyed there, and the product.
-/// Each is given once, without regard to letter case, and is allowed as a file name.
+/// Invents names of projects as surveyors write them: a place, what is surveyed there, and the
+/// product. Each is given once, without regard to letter case, and is allowed as a file name.
 class SampleNames
 {
 public:
     /// @param year the year that some names carry
     explicit SampleNames(int year);
 
-    /// @param city a name of the city catalogue, "Chengdu" or its Chinese form or both with a blank between
-    QString make(const QString& city, SampleLanguage language, bool isCorridor, QRandomGenerator& random);
+    /// @param city a name of the city catalogue, "Chengdu" or its Chinese form or both with a blank
+    /// between
+    QString make(const QString& city, SampleLanguage language, bool isCorridor,
+                 QRandomGenerator& random);
 
 private:
     QString uniqueName(const QString& name, SampleLanguage language);

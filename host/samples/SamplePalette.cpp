@@ -31,8 +31,9 @@ struct Box
         , end(to)
     {
         for (int index = 0; index < 3; ++index) {
-            const auto [low, high] = std::minmax_element(
-                begin, end, [index](QRgb a, QRgb b) { return channel(a, index) < channel(b, index); });
+            const auto [low, high] = std::minmax_element(begin, end, [index](QRgb a, QRgb b) {
+                return channel(a, index) < channel(b, index);
+            });
             const int spread = channel(*high, index) - channel(*low, index);
             if (spread > width) {
                 width = spread;
@@ -57,8 +58,9 @@ std::vector<Box> cut(std::vector<QRgb>& pixels)
 {
     std::vector<Box> boxes = {Box(pixels.begin(), pixels.end())};
     while (boxes.size() < paletteSize) {
-        const auto widest = std::max_element(boxes.begin(), boxes.end(),
-                                             [](const Box& a, const Box& b) { return a.width < b.width; });
+        const auto widest =
+            std::max_element(boxes.begin(), boxes.end(),
+                             [](const Box& a, const Box& b) { return a.width < b.width; });
         if (widest->width == 0)
             break;
         const int index = widest->widestChannel;

@@ -29,7 +29,7 @@ constexpr double smallestCity = 20e6; // Square metres; below, a survey hardly f
 struct City
 {
     QString name;
-    QPointF centre;     ///< x latitude, y longitude, degrees.
+    QPointF centre; ///< x latitude, y longitude, degrees.
     QPolygonF boundary; ///< The same.
 };
 
@@ -61,13 +61,20 @@ QVector<City> surveyableCities()
 SampleKind kindOf(int index)
 {
     switch (index % 24) {
-    case 3: return SampleKind::NoThumbnail;
-    case 7: return SampleKind::OtherUser;
-    case 11: return SampleKind::DamagedThumbnail;
-    case 15: return SampleKind::EmptyFile;
-    case 18: return SampleKind::OtherUser;
-    case 21: return SampleKind::NotADatabase;
-    default: return SampleKind::Sound;
+    case 3:
+        return SampleKind::NoThumbnail;
+    case 7:
+        return SampleKind::OtherUser;
+    case 11:
+        return SampleKind::DamagedThumbnail;
+    case 15:
+        return SampleKind::EmptyFile;
+    case 18:
+        return SampleKind::OtherUser;
+    case 21:
+        return SampleKind::NotADatabase;
+    default:
+        return SampleKind::Sound;
     }
 }
 
@@ -96,14 +103,16 @@ QVector<PlannedProject> plan(const SampleOptions& options)
     for (int i = 0; i < options.count; ++i) {
         PlannedProject planned;
         planned.city = random.bounded(3) == 0 ? usualCities[random.bounded(3)] : anyCity();
-        planned.language = random.bounded(2) == 0 ? SampleLanguage::English : SampleLanguage::Chinese;
+        planned.language =
+            random.bounded(2) == 0 ? SampleLanguage::English : SampleLanguage::Chinese;
         planned.isCorridor = random.bounded(10) < 3;
         SampleProject& project = planned.project;
         project.kind = options.withSpecialCases ? kindOf(i) : SampleKind::Sound;
         project.name = names.make(planned.city.name, planned.language, planned.isCorridor, random);
         if (holdsProject(project.kind)) {
             project.city = planned.city.name;
-            project.userId = project.kind == SampleKind::OtherUser ? otherUserId(i) : options.userId;
+            project.userId =
+                project.kind == SampleKind::OtherUser ? otherUserId(i) : options.userId;
         }
         projects.append(planned);
     }
@@ -117,8 +126,9 @@ QString makeId(QRandomGenerator& random)
     const quint32 c = random.generate();
     const quint32 d = random.generate();
     const auto byte = [](quint32 value, int shift) { return uchar((value >> shift) & 0xffU); };
-    const QUuid uuid(a, ushort(b >> 16U), ushort((b & 0x0fffU) | 0x4000U), uchar((byte(c, 24) & 0x3fU) | 0x80U),
-                     byte(c, 16), byte(c, 8), byte(c, 0), byte(d, 24), byte(d, 16), byte(d, 8), byte(d, 0));
+    const QUuid uuid(a, ushort(b >> 16U), ushort((b & 0x0fffU) | 0x4000U),
+                     uchar((byte(c, 24) & 0x3fU) | 0x80U), byte(c, 16), byte(c, 8), byte(c, 0),
+                     byte(d, 24), byte(d, 16), byte(d, 8), byte(d, 0));
     return GetUidVariant(uuid.toString());
 }
 
@@ -137,7 +147,7 @@ QString outlineText(const QPolygonF& degrees)
 QDateTime modificationTime(int index, const QDateTime& now, QRandomGenerator& random)
 {
     if (index == 0)
-        return now.addSecs(-20 * 60);
+        return now.addSecs(-1200);
     const double share = random.generateDouble();
     const QDate day = now.date().addDays(-1 - int(363 * share * share));
     return QDateTime(day, QTime(8, 0).addSecs(random.bounded(11 * 3600)));
@@ -160,8 +170,8 @@ public:
         const SampleGeometry::LocalPlane plane(planned.city.centre);
         SampleThumbnail::Scene scene;
         scene.cityBoundary = plane.toMetres(planned.city.boundary);
-        scene.areas = SampleGeometry::placeAreas(random.bounded(1, 5), planned.isCorridor, scene.cityBoundary,
-                                                 random);
+        scene.areas = SampleGeometry::placeAreas(random.bounded(1, 5), planned.isCorridor,
+                                                 scene.cityBoundary, random);
         scene.seed = random.generate();
 
         SampleContent content;
@@ -169,7 +179,8 @@ public:
         content.name = planned.project.name;
         content.userId = planned.project.userId;
         content.modified = modificationTime(index, m_options.now, random);
-        content.created = content.modified.addDays(-random.bounded(3, 160)).addSecs(-random.bounded(7200));
+        content.created =
+            content.modified.addDays(-random.bounded(3, 160)).addSecs(-random.bounded(7200));
         content.version = random.bounded(1, 9);
         content.mapScale = std::array<int, 4>{500, 1000, 2000, 5000}[random.bounded(4U)];
         addBlocks(content, scene, plane, planned.language, random);
@@ -206,8 +217,8 @@ private:
         content.centre = PointLatLng(centre.x(), centre.y());
     }
 
-    static void addTasks(SampleBlock& block, double squareMetres, bool wasFlown, const SampleContent& content,
-                         QRandomGenerator& random)
+    static void addTasks(SampleBlock& block, double squareMetres, bool wasFlown,
+                         const SampleContent& content, QRandomGenerator& random)
     {
         const int tasks = std::clamp(int(std::ceil(squareMetres / 4e6)), 1, 6);
         const int days = int(content.created.daysTo(content.modified));
@@ -217,7 +228,8 @@ private:
             task.name = QStringLiteral("%1-%2").arg(block.name).arg(i + 1, 2, 10, QLatin1Char('0'));
             const int flights = wasFlown ? random.bounded(0, 4) : 0;
             for (int flight = 0; flight < flights; ++flight)
-                task.flights.append(content.created.addDays(random.bounded(days)).addSecs(random.bounded(3600)));
+                task.flights.append(
+                    content.created.addDays(random.bounded(days)).addSecs(random.bounded(3600)));
             std::sort(task.flights.begin(), task.flights.end());
             block.tasks.append(task);
         }
@@ -245,7 +257,8 @@ private:
     QByteArray picture(const SampleThumbnail::Scene& scene, int number)
     {
         if (m_pictures.size() < pictures) {
-            const auto format = number % 2 == 0 ? SampleThumbnail::Format::Jpeg : SampleThumbnail::Format::Png;
+            const auto format =
+                number % 2 == 0 ? SampleThumbnail::Format::Jpeg : SampleThumbnail::Format::Png;
             m_pictures.append(SampleThumbnail::toBase64(SampleThumbnail::draw(scene), format));
         }
         return m_pictures[number % pictures];
@@ -262,13 +275,15 @@ bool writeText(const QString& path, const QByteArray& text)
     return file.open(QIODevice::WriteOnly) && file.write(text) == text.size();
 }
 
-bool writeProject(const QString& file, const PlannedProject& planned, int index, ContentMaker& maker)
+bool writeProject(const QString& file, const PlannedProject& planned, int index,
+                  ContentMaker& maker)
 {
     switch (planned.project.kind) {
     case SampleKind::EmptyFile:
         return writeText(file, {});
     case SampleKind::NotADatabase:
-        return writeText(file, QByteArrayLiteral("Backup list of the field office, kept here by mistake.\n"));
+        return writeText(
+            file, QByteArrayLiteral("Backup list of the field office, kept here by mistake.\n"));
     default:
         return writeSampleFiles(file, maker.make(planned, index));
     }
@@ -295,7 +310,8 @@ QStringList writeSampleProjects(const SampleOptions& options)
     ContentMaker maker(options);
     int index = 0;
     for (const PlannedProject& planned : plan(options)) {
-        const QString folder = QStringLiteral("%1/%2").arg(QDir::cleanPath(options.root), planned.project.name);
+        const QString folder =
+            QStringLiteral("%1/%2").arg(QDir::cleanPath(options.root), planned.project.name);
         const QString file = QStringLiteral("%1/%2.proj").arg(folder, planned.project.name);
         if (!QDir().mkpath(folder))
             return {};

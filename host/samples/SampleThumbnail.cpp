@@ -10,12 +10,14 @@
 #include <QPainter>
 #include <QPainterPath>
 #include <QRandomGenerator>
-#include <QTransform>
 #include <QtMath>
+#include <QTransform>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <map>
+#include <utility>
 #include <vector>
 
 namespace SampleThumbnail {
@@ -39,16 +41,51 @@ struct Style
 const std::array<Style, 5>& styles()
 {
     static const std::array<Style, 5> all = {{
-        {{0xffcfe3c4, 0xffdfe9cb, 0xffefebd0, 0xffe6d8b8, 0xfff3eee4}, 0xff9cc9e3, 0.30, 0xff8a7a5c, 0.30,
-         0xffc9a66b, 0xfffdf3d6, 0xff1f6fe0, false},
-        {{0xff4f6b46, 0xff64794f, 0xff7d8458, 0xff9a9069, 0xffb9ab86}, 0xff2c5566, 0.29, 0xff2f3f2a, 0.18,
-         0xff5a5a4c, 0xffd9d3bf, 0xffffb21e, true},
-        {{0xfff3efe6, 0xfff6f3ec, 0xfff0ece2, 0xffe8e4da, 0xfff8f6f1}, 0xffb9d7ea, 0.28, 0xffb8ab93, 0.35,
-         0xffd5cbb5, 0xffffffff, 0xffe2562f, false},
-        {{0xff12263f, 0xff17304d, 0xff1d3a5a, 0xff264868, 0xff335a7c}, 0xff0a1a30, 0.30, 0xff6fa8dc, 0.22,
-         0xff0d1b2e, 0xff4d7096, 0xff21d4c5, true},
-        {{0xffb7c9a1, 0xffd0cd9c, 0xffddbf8a, 0xffc99f72, 0xffb08a6a}, 0xff7fb3c8, 0.25, 0xff6b4a32, 0.30,
-         0xff8a6e4e, 0xfff6e7c8, 0xffc2185b, false},
+        {{0xffcfe3c4, 0xffdfe9cb, 0xffefebd0, 0xffe6d8b8, 0xfff3eee4},
+         0xff9cc9e3,
+         0.30,
+         0xff8a7a5c,
+         0.30,
+         0xffc9a66b,
+         0xfffdf3d6,
+         0xff1f6fe0,
+         false},
+        {{0xff4f6b46, 0xff64794f, 0xff7d8458, 0xff9a9069, 0xffb9ab86},
+         0xff2c5566,
+         0.29,
+         0xff2f3f2a,
+         0.18,
+         0xff5a5a4c,
+         0xffd9d3bf,
+         0xffffb21e,
+         true},
+        {{0xfff3efe6, 0xfff6f3ec, 0xfff0ece2, 0xffe8e4da, 0xfff8f6f1},
+         0xffb9d7ea,
+         0.28,
+         0xffb8ab93,
+         0.35,
+         0xffd5cbb5,
+         0xffffffff,
+         0xffe2562f,
+         false},
+        {{0xff12263f, 0xff17304d, 0xff1d3a5a, 0xff264868, 0xff335a7c},
+         0xff0a1a30,
+         0.30,
+         0xff6fa8dc,
+         0.22,
+         0xff0d1b2e,
+         0xff4d7096,
+         0xff21d4c5,
+         true},
+        {{0xffb7c9a1, 0xffd0cd9c, 0xffddbf8a, 0xffc99f72, 0xffb08a6a},
+         0xff7fb3c8,
+         0.25,
+         0xff6b4a32,
+         0.30,
+         0xff8a6e4e,
+         0xfff6e7c8,
+         0xffc2185b,
+         false},
     }};
     return all;
 }
@@ -96,7 +133,8 @@ private:
         const float u = smooth(x - float(left));
         const float v = smooth(y - float(top));
         const float above = corner(left, top, octave) * (1 - u) + corner(left + 1, top, octave) * u;
-        const float below = corner(left, top + 1, octave) * (1 - u) + corner(left + 1, top + 1, octave) * u;
+        const float below =
+            corner(left, top + 1, octave) * (1 - u) + corner(left + 1, top + 1, octave) * u;
         return above * (1 - v) + below * v;
     }
 
@@ -139,12 +177,14 @@ float contourCover(float height, float slope)
 
 QRgb terrainPixel(const Style& style, float height, float slopeX, float slopeY)
 {
-    const float light = std::clamp(1 + (slopeX + slopeY) * (style.isDark ? 16.F : 9.F), 0.72F, 1.2F);
+    const float light =
+        std::clamp(1 + (slopeX + slopeY) * (style.isDark ? 16.F : 9.F), 0.72F, 1.2F);
     const float slope = std::hypot(slopeX, slopeY);
     const float shore = float(style.waterLevel);
     Rgb colour = landColour(style, (height - shore) / (1 - shore));
     colour = {colour.r * light, colour.g * light, colour.b * light};
-    colour = mix(colour, toRgb(style.contour), float(style.contourOpacity) * contourCover(height, slope));
+    colour = mix(colour, toRgb(style.contour),
+                 float(style.contourOpacity) * contourCover(height, slope));
     const float wet = std::clamp((shore - height) / std::max(slope, 1e-4F) + 0.5F, 0.F, 1.F);
     colour = mix(colour, toRgb(style.water), wet);
     const auto channel = [](float value) { return int(std::clamp(value, 0.F, 255.F)); };
@@ -160,7 +200,8 @@ QImage drawTerrain(const Style& style, quint32 seed)
         for (int x = 0; x <= width; ++x) {
             // Most sums of noise lie between a quarter and three quarters; spread them.
             const float raw = terrain.height(float(x), float(y));
-            heights[std::size_t(y) * stride + std::size_t(x)] = std::clamp((raw - 0.2F) / 0.6F, 0.F, 1.F);
+            heights[std::size_t(y) * stride + std::size_t(x)] =
+                std::clamp((raw - 0.2F) / 0.6F, 0.F, 1.F);
         }
     }
 
@@ -178,7 +219,9 @@ QImage drawTerrain(const Style& style, quint32 seed)
 /// A road or river from one side of the picture to the other.
 QPainterPath makeWay(QRandomGenerator& random)
 {
-    const auto between = [&](double low, double high) { return low + (high - low) * random.generateDouble(); };
+    const auto between = [&](double low, double high) {
+        return low + (high - low) * random.generateDouble();
+    };
     const bool isUpright = random.bounded(2) == 0;
     const double length = isUpright ? height : width;
     const double breadth = isUpright ? width : height;
@@ -197,7 +240,8 @@ QPainterPath makeWay(QRandomGenerator& random)
 void drawWays(QPainter& painter, const Style& style, QRandomGenerator& random)
 {
     const auto stroke = [&](const QPainterPath& way, QRgb colour, double breadth) {
-        painter.strokePath(way, QPen(QColor(colour), breadth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.strokePath(
+            way, QPen(QColor(colour), breadth, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
     };
     if (random.bounded(2) == 0)
         stroke(makeWay(random), style.water, 9);
@@ -223,6 +267,32 @@ QTransform viewOf(const QVector<SampleGeometry::Area>& areas)
         .translate(-box.center().x(), -box.center().y());
 }
 
+/// The line around a city. Rings of islands and enclaves hang together in one polygon by edges that
+/// run to them and back; those are left out.
+QPainterPath borderLine(const QPolygonF& boundary)
+{
+    using Edge = std::array<double, 4>;
+    const auto edgeFrom = [&](int i) {
+        const QPointF& a = boundary[i];
+        const QPointF& b = boundary[(i + 1) % boundary.size()];
+        const bool isAscending = std::make_pair(a.x(), a.y()) < std::make_pair(b.x(), b.y());
+        return isAscending ? Edge{a.x(), a.y(), b.x(), b.y()} : Edge{b.x(), b.y(), a.x(), a.y()};
+    };
+    std::map<Edge, int> uses;
+    for (int i = 0; i < boundary.size(); ++i)
+        ++uses[edgeFrom(i)];
+
+    QPainterPath line(boundary.value(0));
+    for (int i = 0; i < boundary.size(); ++i) {
+        const QPointF& next = boundary[(i + 1) % boundary.size()];
+        if (uses[edgeFrom(i)] == 1)
+            line.lineTo(next);
+        else
+            line.moveTo(next);
+    }
+    return line;
+}
+
 void drawBoundary(QPainter& painter, const QPolygonF& boundary, const Style& style)
 {
     QPainterPath outside;
@@ -232,9 +302,7 @@ void drawBoundary(QPainter& painter, const QPolygonF& boundary, const Style& sty
     painter.fillPath(outside, style.isDark ? QColor(0, 0, 0, 80) : QColor(255, 255, 255, 110));
     QPen pen(style.isDark ? QColor(255, 255, 255, 190) : QColor(90, 60, 120, 200), 3);
     pen.setDashPattern({5, 2, 1.4, 2});
-    painter.setPen(pen);
-    painter.setBrush(Qt::NoBrush);
-    painter.drawPolygon(boundary);
+    painter.strokePath(borderLine(boundary), pen);
 }
 
 /// Parallel lines over the whole of a shape, clipped to it.
@@ -250,10 +318,10 @@ void drawFlightLines(QPainter& painter, const SampleGeometry::Area& area, const 
         painter.drawPolyline(view.map(area.centreLine));
     } else {
         const QRectF box = outline.boundingRect();
-        const double reach = std::hypot(box.width(), box.height()) / 2;
+        const int reach = qCeil(std::hypot(box.width(), box.height()) / 2);
         painter.translate(box.center());
         painter.rotate(-area.flightAngle);
-        for (double y = -reach; y <= reach; y += 9)
+        for (int y = -reach; y <= reach; y += 9)
             painter.drawLine(QPointF(-reach, y), QPointF(reach, y));
     }
     painter.restore();
@@ -269,7 +337,8 @@ void drawAreas(QPainter& painter, const Scene& scene, const QTransform& view, co
     for (const SampleGeometry::Area& area : scene.areas) {
         const QPolygonF outline = view.map(area.outline);
         painter.setBrush(fill);
-        painter.setPen(QPen(QColor(255, 255, 255, 220), 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setPen(
+            QPen(QColor(255, 255, 255, 220), 7, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
         painter.drawPolygon(outline);
         drawFlightLines(painter, area, outline, view, lines);
         painter.setBrush(Qt::NoBrush);
@@ -294,8 +363,8 @@ QRectF freeCorner(const Scene& scene, const QTransform& areaView, double side)
     const double bottom = height - side - margin;
     QRectF best;
     double leastHidden = -1;
-    for (const QPointF& corner : {QPointF(right, bottom), QPointF(margin, bottom), QPointF(right, margin),
-                                  QPointF(margin, margin)}) {
+    for (const QPointF& corner : {QPointF(right, bottom), QPointF(margin, bottom),
+                                  QPointF(right, margin), QPointF(margin, margin)}) {
         const QRectF frame(corner, QSizeF(side, side));
         double hidden = 0;
         for (const SampleGeometry::Area& area : scene.areas)
@@ -309,7 +378,8 @@ QRectF freeCorner(const Scene& scene, const QTransform& areaView, double side)
 }
 
 /// The whole city in a corner, with a dot where the project is.
-void drawLocator(QPainter& painter, const Scene& scene, const QTransform& areaView, const Style& style)
+void drawLocator(QPainter& painter, const Scene& scene, const QTransform& areaView,
+                 const Style& style)
 {
     constexpr double side = 92;
     const QRectF frame = freeCorner(scene, areaView, side);
@@ -323,9 +393,12 @@ void drawLocator(QPainter& painter, const Scene& scene, const QTransform& areaVi
                                 .translate(frame.center().x(), frame.center().y())
                                 .scale(scale, -scale)
                                 .translate(-box.center().x(), -box.center().y());
-    painter.setPen(QPen(style.isDark ? QColor(150, 178, 210) : QColor(110, 125, 145), 2));
-    painter.setBrush(style.isDark ? QColor(60, 88, 120) : QColor(214, 222, 232));
-    painter.drawPolygon(view.map(scene.cityBoundary));
+    const QPolygonF city = view.map(scene.cityBoundary);
+    QPainterPath surface;
+    surface.addPolygon(city);
+    painter.fillPath(surface, style.isDark ? QColor(60, 88, 120) : QColor(214, 222, 232));
+    const QColor border = style.isDark ? QColor(150, 178, 210) : QColor(110, 125, 145);
+    painter.strokePath(borderLine(city), QPen(border, 2));
 
     const QPointF place = view.map(scene.areas.first().outline.boundingRect().center());
     painter.setPen(QPen(Qt::white, 2));

@@ -26,12 +26,11 @@ struct Scene
     quint32 seed = 0; ///< Of landscape and colours.
 };
 
-/// The survey areas with their flight lines on an invented landscape, the city's boundary where it passes,
-/// and a small map of the whole city in the corner. Needs no display.
+/// The survey areas with their flight lines on an invented landscape, the city's boundary where it
+/// passes, and a small map of the whole city in the corner. Needs no display.
 QImage draw(const Scene& scene);
 
-enum class Format
-{
+enum class Format {
     Jpeg,
     Png ///< With a palette.
 };

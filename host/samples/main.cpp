@@ -12,12 +12,18 @@ namespace {
 QString kindText(SampleKind kind)
 {
     switch (kind) {
-    case SampleKind::Sound: return QStringLiteral("sound");
-    case SampleKind::NoThumbnail: return QStringLiteral("no thumbnail");
-    case SampleKind::DamagedThumbnail: return QStringLiteral("damaged thumbnail");
-    case SampleKind::OtherUser: return QStringLiteral("other user");
-    case SampleKind::EmptyFile: return QStringLiteral("empty file");
-    case SampleKind::NotADatabase: return QStringLiteral("not a database");
+    case SampleKind::Sound:
+        return QStringLiteral("sound");
+    case SampleKind::NoThumbnail:
+        return QStringLiteral("no thumbnail");
+    case SampleKind::DamagedThumbnail:
+        return QStringLiteral("damaged thumbnail");
+    case SampleKind::OtherUser:
+        return QStringLiteral("other user");
+    case SampleKind::EmptyFile:
+        return QStringLiteral("empty file");
+    case SampleKind::NotADatabase:
+        return QStringLiteral("not a database");
     }
     return {};
 }
@@ -26,8 +32,8 @@ int list(const SampleOptions& options, QTextStream& out)
 {
     const QVector<SampleProject> projects = planSampleProjects(options);
     for (const SampleProject& project : projects)
-        out << kindText(project.kind) << '\t' << project.userId << '\t' << project.city << '\t' << project.name
-            << '\n';
+        out << kindText(project.kind) << '\t' << project.userId << '\t' << project.city << '\t'
+            << project.name << '\n';
     return projects.size() == options.count ? 0 : 1;
 }
 
@@ -43,10 +49,11 @@ int main(int argc, char* argv[])
                                        QStringLiteral("DIR"));
     const QCommandLineOption countOption(QStringLiteral("count"), QStringLiteral("Files to write."),
                                          QStringLiteral("N"), QStringLiteral("24"));
-    const QCommandLineOption seedOption(QStringLiteral("seed"), QStringLiteral("The same gives the same."),
+    const QCommandLineOption seedOption(QStringLiteral("seed"),
+                                        QStringLiteral("The same gives the same."),
                                         QStringLiteral("S"), QStringLiteral("1"));
-    const QCommandLineOption listOption(QStringLiteral("list"),
-                                        QStringLiteral("Print kind, user, city and name; write nothing."));
+    const QCommandLineOption listOption(
+        QStringLiteral("list"), QStringLiteral("Print kind, user, city and name; write nothing."));
     parser.addOptions({outOption, countOption, seedOption, listOption});
     parser.process(application);
 
@@ -62,7 +69,8 @@ int main(int argc, char* argv[])
     options.count = parser.value(countOption).toInt(&isCount);
     options.seed = parser.value(seedOption).toUInt(&isSeed);
     options.now = QDateTime::currentDateTime();
-    if (!isCount || options.count < 0 || !isSeed || (options.root.isEmpty() && !parser.isSet(listOption))) {
+    if (!isCount || options.count < 0 || !isSeed
+        || (options.root.isEmpty() && !parser.isSet(listOption))) {
         err << parser.helpText();
         return 2;
     }

@@ -1,8 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The RkBaseUI developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
-// Prints as JSON the whole catalogue that lies beside the program, and its answers to the questions on
-// the command line: "point <lat> <lng>", "keyword <text>" and "name <text>", any number of them.
+// Prints as JSON the whole catalogue that lies beside the program, and its answers to the questions
+// on the command line: "point <lat> <lng>", "keyword <text>" and "name <text>", any number of them.
 // Coordinates are texts, because JSON knows no infinity.
 
 #include <RkBaseUI/RkCityCategory.h>
@@ -62,7 +62,7 @@ QJsonValue json(const QList<QPair<QPolygonF, QString>>& boundaries)
         QStringList points;
         for (const QPointF& point : polygon)
             points.append(text(point.x()) + ' ' + text(point.y()));
-        array.append(QJsonArray {name, points.join(';')});
+        array.append(QJsonArray{name, points.join(';')});
     }
     return array;
 }
@@ -91,11 +91,13 @@ QJsonArray answers(const RkCityCategory& catalogue, QStringList questions)
         const QString kind = questions.takeFirst();
         const QString value = questions.takeFirst();
         if (kind == "point")
-            array.append(catalogue.GetCityName(PointLatLng(value.toDouble(), questions.takeFirst().toDouble())));
+            array.append(catalogue.GetCityName(
+                PointLatLng(value.toDouble(), questions.takeFirst().toDouble())));
         else if (kind == "keyword")
             array.append(json(catalogue.searchByKeyword(value)));
         else if (kind == "name")
-            array.append(QJsonArray {text(catalogue.getLatLng(value)), text(catalogue.getRadius(value))});
+            array.append(
+                QJsonArray{text(catalogue.getLatLng(value)), text(catalogue.getRadius(value))});
     }
     return array;
 }

@@ -33,7 +33,10 @@ public:
     }
 
     int bounded(int end) { return m_random.bounded(end); }
-    double uniform(double from, double to) { return from + m_random.generateDouble() * (to - from); }
+    double uniform(double from, double to)
+    {
+        return from + m_random.generateDouble() * (to - from);
+    }
 
     /// A corner of a coarse lattice, so that corners, edges and points often coincide.
     QPointF latticePoint() { return {20 + bounded(25) * 0.25, 100 + bounded(25) * 0.25}; }
@@ -54,7 +57,8 @@ public:
         const int corners = 3 + bounded(200);
         for (int i = 0; i < corners; ++i) {
             const double angle = 2 * M_PI * i / corners;
-            polygon.append(centre + uniform(0.3, 1.0) * size * QPointF(std::cos(angle), std::sin(angle)));
+            polygon.append(centre
+                           + uniform(0.3, 1.0) * size * QPointF(std::cos(angle), std::sin(angle)));
         }
         return polygon;
     }
@@ -123,7 +127,8 @@ public:
 
     QPolygonF wild()
     {
-        const double values[] = {0, -0.0, 23, 103, 1e-320, -1e-320, 1e17, -1e17, 1e300, -1e300, 360, 361,
+        const double values[] = {0,       -0.0,     23,       103,       1e-320,    -1e-320,
+                                 1e17,    -1e17,    1e300,    -1e300,    360,       361,
                                  1.7e308, -1.7e308, infinity, -infinity, notANumber};
         QPolygonF polygon = lattice();
         for (QPointF& point : polygon) {
@@ -146,7 +151,8 @@ public:
     /// On, and by the least step beside, what the polygon's edges turn on; and anywhere.
     QVector<QPointF> pointsFor(const QPolygonF& polygon)
     {
-        QVector<QPointF> points = {latticePoint(), latticePoint() + QPointF(0.125, 0.125),
+        QVector<QPointF> points = {latticePoint(),
+                                   latticePoint() + QPointF(0.125, 0.125),
                                    {uniform(19, 27), uniform(99, 107)}};
         for (int i = 0; i < 6 && !polygon.isEmpty(); ++i) {
             const int edge = bounded(polygon.size());
@@ -154,7 +160,8 @@ public:
             const QPointF to = polygon.at((edge + 1) % polygon.size());
             const double y = from.y() + uniform(0, 1) * (to.y() - from.y());
             const double x = from.x() + (to.x() - from.x()) / (to.y() - from.y()) * (y - from.y());
-            for (const QPointF& point : {from, (from + to) / 2, QPointF(x, y), QPointF(x, from.y())})
+            for (const QPointF& point :
+                 {from, (from + to) / 2, QPointF(x, y), QPointF(x, from.y())})
                 points.append({nudged(point.x()), nudged(point.y())});
         }
         return points;
@@ -303,17 +310,19 @@ void tst_BoundaryIndex::prefersTheFirstOfOverlapping()
 
 void tst_BoundaryIndex::givesNothingWithoutPolygons()
 {
-    const QPolygonF corner(QVector<QPointF> {QPointF(0, 0)});
-    for (const QPointF& point : {QPointF(0, 0), QPointF(30, 104), QPointF(-1, -1), QPointF(360, 360)}) {
+    const QPolygonF corner(QVector<QPointF>{QPointF(0, 0)});
+    for (const QPointF& point :
+         {QPointF(0, 0), QPointF(30, 104), QPointF(-1, -1), QPointF(360, 360)}) {
         QCOMPARE(BoundaryIndex().firstContaining(point), -1);
         QCOMPARE(BoundaryIndex(QVector<QPolygonF>()).firstContaining(point), -1);
-        QCOMPARE(BoundaryIndex(QVector<QPolygonF> {QPolygonF(), corner}).firstContaining(point), -1);
+        QCOMPARE(BoundaryIndex(QVector<QPolygonF>{QPolygonF(), corner}).firstContaining(point), -1);
     }
 }
 
 void tst_BoundaryIndex::givesNothingForUndefinedPoints()
 {
-    const BoundaryIndex index({QPolygonF(QRectF(20, 100, 4, 4)), QPolygonF({{notANumber, 1}, {2, 3}, {4, 5}})});
+    const BoundaryIndex index(
+        {QPolygonF(QRectF(20, 100, 4, 4)), QPolygonF({{notANumber, 1}, {2, 3}, {4, 5}})});
     for (const double bad : {notANumber, infinity, -infinity, 1e300, -1e300}) {
         QCOMPARE(index.firstContaining({bad, 102}), -1);
         QCOMPARE(index.firstContaining({22, bad}), -1);
@@ -321,8 +330,8 @@ void tst_BoundaryIndex::givesNothingForUndefinedPoints()
     }
 }
 
-/// An edge that rises too little to be counted leaves heights at which everything to the right of the
-/// polygon has an odd number of crossings.
+/// An edge that rises too little to be counted leaves heights at which everything to the right of
+/// the polygon has an odd number of crossings.
 void tst_BoundaryIndex::letsAPolygonWithoutEvennessDecideFarAway()
 {
     const double little = std::nextafter(100.0, 101.0);

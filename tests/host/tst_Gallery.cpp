@@ -59,7 +59,8 @@ Run runHost(const QStringList& arguments, const QString& home)
     if (!program.waitForFinished(60'000) || program.exitStatus() != QProcess::NormalExit)
         return run;
     run.exitCode = program.exitCode();
-    run.files = QString::fromUtf8(program.readAllStandardOutput()).split(QLatin1Char('\n'), Qt::SkipEmptyParts);
+    run.files = QString::fromUtf8(program.readAllStandardOutput())
+                    .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     run.errors = QString::fromUtf8(program.readAllStandardError());
     return run;
 }
@@ -97,9 +98,9 @@ const Run& tst_Gallery::gallery(const QString& language, int scale)
 {
     const QString key = language + QString::number(scale);
     if (!m_runs.contains(key)) {
-        m_runs[key] = runHost({QStringLiteral("--gallery"), m_home.path() + QStringLiteral("/gallery"),
-                               QStringLiteral("--lang"), language, QStringLiteral("--scale"),
-                               QString::number(scale)},
+        m_runs[key] = runHost({QStringLiteral("--gallery"),
+                               m_home.path() + QStringLiteral("/gallery"), QStringLiteral("--lang"),
+                               language, QStringLiteral("--scale"), QString::number(scale)},
                               m_home.path());
     }
     return m_runs[key];
@@ -143,7 +144,8 @@ void tst_Gallery::blankWindowFails()
                                              {QStringLiteral("label2"), labelWindow, {}}};
     QVERIFY(!Gallery::render(entries, folder, QStringLiteral("en"), outStream, errorStream));
     QCOMPARE(errors, QStringLiteral("Blank: %1/empty_en_1x.png\n").arg(folder));
-    QVERIFY2(QFileInfo::exists(folder + QStringLiteral("/label2_en_1x.png")), "the others are written as well");
+    QVERIFY2(QFileInfo::exists(folder + QStringLiteral("/label2_en_1x.png")),
+             "the others are written as well");
 }
 
 void tst_Gallery::shownWindowPasses()
@@ -153,8 +155,8 @@ void tst_Gallery::shownWindowPasses()
     QTextStream outStream(&out);
     QTextStream errorStream(&errors);
     const QString folder = m_home.path() + QStringLiteral("/deep/folder");
-    QVERIFY(Gallery::render({{QStringLiteral("label"), labelWindow, {}}}, folder, QStringLiteral("en"), outStream,
-                            errorStream));
+    QVERIFY(Gallery::render({{QStringLiteral("label"), labelWindow, {}}}, folder,
+                            QStringLiteral("en"), outStream, errorStream));
     QCOMPARE(out, QStringLiteral("%1/label_en_1x.png\n").arg(folder));
     QVERIFY(errors.isEmpty());
     QVERIFY(!QImage(out.trimmed()).isNull());
@@ -170,7 +172,8 @@ void tst_Gallery::windowIsPreparedWhileItIsActive()
         static_cast<QLabel&>(window).setText(QStringLiteral("A much longer text than before"));
     };
     const QString folder = m_home.path() + QStringLiteral("/prepared");
-    QVERIFY(Gallery::render({{QStringLiteral("before"), labelWindow, {}}, {QStringLiteral("after"), labelWindow, prepare}},
+    QVERIFY(Gallery::render({{QStringLiteral("before"), labelWindow, {}},
+                             {QStringLiteral("after"), labelWindow, prepare}},
                             folder, QStringLiteral("en"), stream, stream));
     QVERIFY(wasActive);
     QVERIFY(readFile(folder + QStringLiteral("/before_en_1x.png"))
@@ -182,8 +185,9 @@ void tst_Gallery::folderThatCannotBeMade()
     QString text;
     QTextStream stream(&text);
     QVERIFY(writeFile(m_home.path() + QStringLiteral("/file"), "x"));
-    QVERIFY(!Gallery::render({{QStringLiteral("label"), labelWindow, {}}}, m_home.path() + QStringLiteral("/file/below"),
-                             QStringLiteral("en"), stream, stream));
+    QVERIFY(!Gallery::render({{QStringLiteral("label"), labelWindow, {}}},
+                             m_home.path() + QStringLiteral("/file/below"), QStringLiteral("en"),
+                             stream, stream));
 }
 
 void tst_Gallery::programShowsEveryWindow_data()
@@ -201,8 +205,9 @@ void tst_Gallery::programShowsEveryWindow()
     QFETCH(int, scale);
     const Run& run = gallery(language, scale);
     QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
-    for (const char* name : {"view-tiles", "view-selected", "view-editing", "view-keyword", "view-city", "host",
-                             "host-empty", "base-dialog", "base-dialog-ok-hover", "base-widget"})
+    for (const char* name :
+         {"view-tiles", "view-selected", "view-editing", "view-keyword", "view-city", "host",
+          "host-empty", "base-dialog", "base-dialog-ok-hover", "base-widget"})
         QVERIFY2(run.files.contains(file(QLatin1String(name), language, scale)), name);
     QSet<QByteArray> contents;
     for (const QString& path : run.files) {
@@ -217,8 +222,10 @@ void tst_Gallery::programShowsEveryWindow()
         contents.insert(readFile(path));
     }
     QCOMPARE(contents.size(), run.files.size()); // Every state looks different.
-    QVERIFY2(!QDir(m_home.path() + QStringLiteral("/config")).exists(), "the person's settings are left alone");
-    QVERIFY2(!QDir(m_home.path() + QStringLiteral("/own-projects")).exists(), "and the projects too");
+    QVERIFY2(!QDir(m_home.path() + QStringLiteral("/config")).exists(),
+             "the person's settings are left alone");
+    QVERIFY2(!QDir(m_home.path() + QStringLiteral("/own-projects")).exists(),
+             "and the projects too");
 }
 
 void tst_Gallery::languagesDiffer()
@@ -247,10 +254,13 @@ void tst_Gallery::twiceTheScaleIsTwiceThePixels()
 void tst_Gallery::programRefusesBadOptions_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("scale is no number") << QStringList{QStringLiteral("--scale"), QStringLiteral("big")};
-    QTest::newRow("scale of nothing") << QStringList{QStringLiteral("--scale"), QStringLiteral("0")};
+    QTest::newRow("scale is no number")
+        << QStringList{QStringLiteral("--scale"), QStringLiteral("big")};
+    QTest::newRow("scale of nothing")
+        << QStringList{QStringLiteral("--scale"), QStringLiteral("0")};
     QTest::newRow("unknown option") << QStringList{QStringLiteral("--nothing")};
-    QTest::newRow("unknown language") << QStringList{QStringLiteral("--lang"), QStringLiteral("xx")};
+    QTest::newRow("unknown language")
+        << QStringList{QStringLiteral("--lang"), QStringLiteral("xx")};
     QTest::newRow("stray word") << QStringList{QStringLiteral("word")};
 }
 
@@ -258,7 +268,8 @@ void tst_Gallery::programRefusesBadOptions()
 {
     QFETCH(QStringList, arguments);
     const QString folder = m_home.path() + QStringLiteral("/refused");
-    const Run run = runHost(arguments + QStringList{QStringLiteral("--gallery"), folder}, m_home.path());
+    const Run run =
+        runHost(arguments + QStringList{QStringLiteral("--gallery"), folder}, m_home.path());
     QCOMPARE(run.exitCode, 2);
     QVERIFY(run.errors.contains(QLatin1String("--gallery")));
     QVERIFY(!QFileInfo::exists(folder));

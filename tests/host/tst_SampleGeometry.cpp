@@ -70,10 +70,11 @@ void tst_SampleGeometry::centroids_data()
     QTest::addColumn<QPolygonF>("ring");
     QTest::addColumn<QPointF>("expected");
     QTest::newRow("square") << square(2, 4, 2) << QPointF(3, 5);
-    QTest::newRow("ell") << QPolygonF(QVector<QPointF>{{0, 0}, {2, 0}, {2, 1}, {1, 1}, {1, 2}, {0, 2}})
+    QTest::newRow("ell") << QPolygonF(
+        QVector<QPointF>{{0, 0}, {2, 0}, {2, 1}, {1, 1}, {1, 2}, {0, 2}})
                          << QPointF(5 / 6.0, 5 / 6.0);
-    QTest::newRow("straight line: mean") << QPolygonF(QVector<QPointF>{{0, 0}, {1, 0}, {5, 0}})
-                                         << QPointF(2, 0);
+    QTest::newRow("straight line: mean")
+        << QPolygonF(QVector<QPointF>{{0, 0}, {1, 0}, {5, 0}}) << QPointF(2, 0);
 }
 
 void tst_SampleGeometry::centroids()

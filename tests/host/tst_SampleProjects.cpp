@@ -18,8 +18,8 @@
 #include <QSet>
 #include <QSqlQuery>
 #include <QTest>
-#include <QVariant>
 #include <QtMath>
+#include <QVariant>
 
 #include <algorithm>
 #include <cmath>
@@ -44,7 +44,8 @@ QVector<Block> readBlocks(const QString& file)
         Block block;
         block.id = query.value(QStringLiteral("survey_area_guid")).toString();
         block.isStrip = query.value(QStringLiteral("block_type")).toInt() == 2;
-        const QString text = query.value(QStringLiteral("survey_area_coordinate_points")).toString();
+        const QString text =
+            query.value(QStringLiteral("survey_area_coordinate_points")).toString();
         for (const QString& point : text.split(QLatin1Char(';'))) {
             const QStringList numbers = point.split(QLatin1Char(','));
             block.points << QPointF(numbers.value(0).toDouble(), numbers.value(1).toDouble());
@@ -106,7 +107,8 @@ QVariant readValue(const QString& file, const QString& column)
     CRkDataBase database(file);
     if (!database.open())
         return {};
-    QSqlQuery query = database.exec(QStringLiteral("select %1 from %2").arg(column, ProjectTableName));
+    QSqlQuery query =
+        database.exec(QStringLiteral("select %1 from %2").arg(column, ProjectTableName));
     return query.next() ? query.value(0) : QVariant();
 }
 
@@ -153,7 +155,7 @@ private:
     SampleOptions options(const QString& folder, int count = 24) const;
 
     TestHome m_home;
-    QStringList m_files;           ///< Of 24 projects, made by the first test that needs them.
+    QStringList m_files; ///< Of 24 projects, made by the first test that needs them.
     QVector<SampleProject> m_plan; ///< The same.
 
     void need24();
@@ -205,8 +207,8 @@ void tst_SampleProjects::everyKindIsPlanned()
     }
     QCOMPARE(counts.value(SampleKind::Sound), 18);
     QCOMPARE(counts.value(SampleKind::OtherUser), 2);
-    for (const SampleKind kind : {SampleKind::NoThumbnail, SampleKind::DamagedThumbnail, SampleKind::EmptyFile,
-                                  SampleKind::NotADatabase})
+    for (const SampleKind kind : {SampleKind::NoThumbnail, SampleKind::DamagedThumbnail,
+                                  SampleKind::EmptyFile, SampleKind::NotADatabase})
         QCOMPARE(counts.value(kind), 1);
     QVERIFY(cities.size() >= 10);
 }
@@ -235,7 +237,8 @@ void tst_SampleProjects::filesAreThoseOfThePlan()
 {
     need24();
     for (int i = 0; i < m_files.size(); ++i) {
-        const QString expected = QStringLiteral("%1/all/%2/%2.proj").arg(m_home.path(), m_plan[i].name);
+        const QString expected =
+            QStringLiteral("%1/all/%2/%2.proj").arg(m_home.path(), m_plan[i].name);
         QCOMPARE(m_files[i], expected);
         QVERIFY(QFileInfo(m_files[i]).isFile());
     }
@@ -260,7 +263,8 @@ void tst_SampleProjects::projectsBelongToTheirUsers()
             continue;
         QCOMPARE(readValue(m_files[i], QStringLiteral("user_id")).toString(), m_plan[i].userId);
         QCOMPARE(readValue(m_files[i], QStringLiteral("project_name")).toString(), m_plan[i].name);
-        QCOMPARE(m_plan[i].userId == QLatin1String("surveyor"), m_plan[i].kind != SampleKind::OtherUser);
+        QCOMPARE(m_plan[i].userId == QLatin1String("surveyor"),
+                 m_plan[i].kind != SampleKind::OtherUser);
     }
 }
 
@@ -274,7 +278,8 @@ void tst_SampleProjects::timesLieInTheYearBefore()
         if (!holdsProject(m_plan[i]))
             continue;
         const auto time = [&](const char* column) {
-            return QDateTime::fromString(readValue(m_files[i], QLatin1String(column)).toString(), DateTimeSFormat);
+            return QDateTime::fromString(readValue(m_files[i], QLatin1String(column)).toString(),
+                                         DateTimeSFormat);
         };
         const QDateTime modified = time("updated_at");
         QVERIFY(modified.isValid() && modified <= now && modified > now.addDays(-366));
@@ -321,9 +326,10 @@ void tst_SampleProjects::flightsBelongToTasks()
         if (!QFileInfo::exists(companion))
             continue;
         ++flown;
-        const QStringList tasks = readSql(file, QStringLiteral("select flight_task_guid from ") + MissionTableName);
-        const QStringList flights = readSql(companion,
-                                            QStringLiteral("select flight_task_id from ") + FlightMissionTableName);
+        const QStringList tasks =
+            readSql(file, QStringLiteral("select flight_task_guid from ") + MissionTableName);
+        const QStringList flights = readSql(
+            companion, QStringLiteral("select flight_task_id from ") + FlightMissionTableName);
         QVERIFY(!flights.isEmpty());
         for (const QString& task : flights)
             QVERIFY(tasks.contains(task));
@@ -334,7 +340,8 @@ void tst_SampleProjects::flightsBelongToTasks()
 void tst_SampleProjects::indexesOfTheWritersAreThere()
 {
     const auto indexed = [](const QString& file) {
-        QStringList tables = readSql(file, QStringLiteral("select tbl_name from sqlite_master where type='index'"));
+        QStringList tables =
+            readSql(file, QStringLiteral("select tbl_name from sqlite_master where type='index'"));
         tables.sort();
         return tables;
     };
@@ -346,7 +353,8 @@ void tst_SampleProjects::indexesOfTheWritersAreThere()
         return QFileInfo::exists(CRkControl::GetFlightMissionFilePath(project));
     });
     QVERIFY(flown != m_files.cend());
-    QCOMPARE(indexed(CRkControl::GetFlightMissionFilePath(*flown)), QStringList(FlightMissionTableName));
+    QCOMPARE(indexed(CRkControl::GetFlightMissionFilePath(*flown)),
+             QStringList(FlightMissionTableName));
 }
 
 void tst_SampleProjects::outlinesLieInsideTheirCity()
@@ -484,12 +492,13 @@ void tst_SampleProjects::programListsAndWrites()
 {
     const QString root = m_home.path() + QStringLiteral("/program");
     QProcess program;
-    program.start(QStringLiteral(RK_SAMPLES), {QStringLiteral("--list"), QStringLiteral("--count"),
-                                               QStringLiteral("6"), QStringLiteral("--seed"), QStringLiteral("3")});
+    program.start(QStringLiteral(RK_SAMPLES),
+                  {QStringLiteral("--list"), QStringLiteral("--count"), QStringLiteral("6"),
+                   QStringLiteral("--seed"), QStringLiteral("3")});
     QVERIFY(program.waitForFinished());
     QCOMPARE(program.exitCode(), 0);
-    const QStringList lines = QString::fromUtf8(program.readAllStandardOutput()).split(QLatin1Char('\n'),
-                                                                                      Qt::SkipEmptyParts);
+    const QStringList lines = QString::fromUtf8(program.readAllStandardOutput())
+                                  .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     QCOMPARE(lines.size(), 6);
 
     program.start(QStringLiteral(RK_SAMPLES),
@@ -513,11 +522,15 @@ void tst_SampleProjects::programRefusesBadOptions_data()
     const QString out = QStringLiteral("--out");
     const QString folder = m_home.path() + QStringLiteral("/refused");
     QTest::newRow("no folder") << QStringList() << 2;
-    QTest::newRow("count is no number") << QStringList{out, folder, QStringLiteral("--count"), QStringLiteral("x")} << 2;
-    QTest::newRow("negative count") << QStringList{out, folder, QStringLiteral("--count"), QStringLiteral("-1")} << 2;
-    QTest::newRow("seed is no number") << QStringList{out, folder, QStringLiteral("--seed"), QStringLiteral("x")} << 2;
+    QTest::newRow("count is no number")
+        << QStringList{out, folder, QStringLiteral("--count"), QStringLiteral("x")} << 2;
+    QTest::newRow("negative count")
+        << QStringList{out, folder, QStringLiteral("--count"), QStringLiteral("-1")} << 2;
+    QTest::newRow("seed is no number")
+        << QStringList{out, folder, QStringLiteral("--seed"), QStringLiteral("x")} << 2;
     QTest::newRow("unknown option") << QStringList{QStringLiteral("--nothing")} << 1;
-    QTest::newRow("folder below a file") << QStringList{out, QStringLiteral(RK_SAMPLES "/below")} << 1;
+    QTest::newRow("folder below a file")
+        << QStringList{out, QStringLiteral(RK_SAMPLES "/below")} << 1;
 }
 
 void tst_SampleProjects::programRefusesBadOptions()

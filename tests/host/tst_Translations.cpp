@@ -94,7 +94,8 @@ QVector<Message> tst_Translations::upToDate()
     if (!writeFile(copy, readFile(source(QStringLiteral("lang/%1.ts").arg(file)))))
         return {};
     QProcess update;
-    update.start(QStringLiteral(RK_LUPDATE), {QStringLiteral("-silent"), source(folder), QStringLiteral("-ts"), copy});
+    update.start(QStringLiteral(RK_LUPDATE),
+                 {QStringLiteral("-silent"), source(folder), QStringLiteral("-ts"), copy});
     if (!update.waitForFinished() || update.exitCode() != 0)
         return {};
     return readMessages(copy);
@@ -114,8 +115,10 @@ void tst_Translations::everyTextOfTheSourcesIsTranslated()
 void tst_Translations::translationsKeepPlaceholdersAndEdges()
 {
     for (const Message& message : upToDate()) {
-        QVERIFY2(placeholders(message.translation) == placeholders(message.source), qPrintable(message.source));
-        QVERIFY2(message.translation.count(QLatin1Char('\n')) == message.source.count(QLatin1Char('\n')),
+        QVERIFY2(placeholders(message.translation) == placeholders(message.source),
+                 qPrintable(message.source));
+        QVERIFY2(message.translation.count(QLatin1Char('\n'))
+                     == message.source.count(QLatin1Char('\n')),
                  qPrintable(message.source));
     }
 }
@@ -128,7 +131,8 @@ void tst_Translations::loadedFileTranslates()
     const QVector<Message> messages = upToDate();
     QVERIFY(!messages.isEmpty());
     for (const Message& message : messages) {
-        QCOMPARE(translator->translate(message.context.toUtf8().constData(), message.source.toUtf8().constData()),
+        QCOMPARE(translator->translate(message.context.toUtf8().constData(),
+                                       message.source.toUtf8().constData()),
                  message.translation);
     }
 }
@@ -136,7 +140,8 @@ void tst_Translations::loadedFileTranslates()
 /// The word between two dates must not look like a part of one.
 void tst_Translations::wordsOfDateConditions()
 {
-    const std::unique_ptr<QTranslator> translator(CreateTranslator(QStringLiteral("RkBaseUI_zh_CN")));
+    const std::unique_ptr<QTranslator> translator(
+        CreateTranslator(QStringLiteral("RkBaseUI_zh_CN")));
     const QString to = translator->translate("CRkProjectManagerView", "to");
     QVERIFY(!to.isEmpty());
     for (const QChar c : to)

@@ -20,15 +20,17 @@ QString ProjectFixture::write(const QString& root) const
         "CREATE TABLE " + SurveyAreaTableName + " " + GetSurveyAreaTableContents(),
         "CREATE TABLE " + MissionTableName + " " + GetMissionTableContents(),
         "INSERT INTO " + ProjectTableName
-            + QString(" (project_name,id,user_id,created_at,version,updated_at,software_version,image_data)"
+            + QString(" (project_name,id,user_id,created_at,version,updated_at,software_version,"
+                      "image_data)"
                       " VALUES ('%1','%2','%3','2026-01-01 00:00:00','1','%4','0.9.8','%5')")
                   .arg(name, id, userId, modified, QString::fromLatin1(imageData)),
     };
     for (int i = 0; i < outlines.size(); ++i) {
-        statements.append("INSERT INTO " + SurveyAreaTableName
-                          + QString(" (id,survey_area_guid,project_id,survey_area_name,"
-                                    "survey_area_coordinate_points) VALUES ('a%1','a%1','%2','area %1','%3')")
-                                .arg(QString::number(i), id, outlines[i]));
+        statements.append(
+            "INSERT INTO " + SurveyAreaTableName
+            + QString(" (id,survey_area_guid,project_id,survey_area_name,"
+                      "survey_area_coordinate_points) VALUES ('a%1','a%1','%2','area %1','%3')")
+                  .arg(QString::number(i), id, outlines[i]));
     }
     statements.append("COMMIT");
     return runSql(file, statements) ? file : QString();

@@ -24,7 +24,8 @@ struct ProjectFixture
 };
 
 /// An image file of one colour with a darker right half, in base64.
-QByteArray thumbnailText(const QColor& colour, const QSize& size = {380, 286}, const char* format = "png");
+QByteArray thumbnailText(const QColor& colour, const QSize& size = {380, 286},
+                         const char* format = "png");
 
 /// A square of 0.01 degree to each side of a point.
 QString squareAround(double latitude, double longitude);

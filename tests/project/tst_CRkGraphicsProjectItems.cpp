@@ -17,7 +17,8 @@
 namespace {
 
 const QColor ground(10, 120, 40);
-const QString longName = QStringLiteral("A survey of every hill and dale between the river and the northern border");
+const QString longName =
+    QStringLiteral("A survey of every hill and dale between the river and the northern border");
 
 /// The scene around the origin, 10 pixels beyond 200 x 180 on every side.
 class Picture
@@ -259,7 +260,8 @@ void tst_CRkGraphicsProjectItems::blockNameIsCentred()
     const QRect text = Picture(scene).extentOfAllBut(plain);
     QVERIFY(!text.isEmpty());
     const QPoint off = text.center() - QPoint(95, 71);
-    QVERIFY2(qAbs(off.x()) <= 3 && qAbs(off.y()) <= 4, qPrintable(QString("%1, %2").arg(off.x()).arg(off.y())));
+    QVERIFY2(qAbs(off.x()) <= 3 && qAbs(off.y()) <= 4,
+             qPrintable(QString("%1, %2").arg(off.x()).arg(off.y())));
 
     const QImage before = Picture(scene).image();
     block->setSelected(true);
@@ -327,7 +329,8 @@ void tst_CRkGraphicsProjectItems::displayAndToolTip()
     caption.SetPrjSize("3MB");
     caption.SetPrjModifiedDateTime("2026-05-03 12:00:00");
     caption.buildDisplayAndToolTip();
-    QCOMPARE(caption.toolTip(), "Name:" + name + "\n Size:3MB\n Modification time:2026-05-03 12:00:00");
+    QCOMPARE(caption.toolTip(),
+             "Name:" + name + "\n Size:3MB\n Modification time:2026-05-03 12:00:00");
     QCOMPARE(caption.GetPrjName(), name);
     const QString shown = caption.toPlainText();
     QCOMPARE(shown, QFontMetricsF(caption.font()).elidedText(name, Qt::ElideRight, 140));
@@ -354,7 +357,8 @@ void tst_CRkGraphicsProjectItems::captionAtRestIsCentredAndElided()
     caption->SetPrjName(longName);
     caption->buildDisplayAndToolTip();
     const QRect elided = Picture(scene).extentOfAllBut({ground});
-    QVERIFY2(elided.width() > 140 && elided.width() <= 182, "elided to 180, not to the 140 of the text");
+    QVERIFY2(elided.width() > 140 && elided.width() <= 182,
+             "elided to 180, not to the 140 of the text");
     QVERIFY(qAbs(elided.center().x() - 95) <= 8);
 
     // Only the name: what the text item itself holds is not painted.
@@ -466,14 +470,21 @@ void tst_CRkGraphicsProjectItems::editedName_data()
 {
     QTest::addColumn<QString>("typed");
     QTest::addColumn<QString>("emitted");
-    QTest::newRow("another name") << "Dale" << "Dale";
-    QTest::newRow("blanks at the end") << "Dale   " << "Dale";
-    QTest::newRow("blanks at the beginning stay") << "  Dale  " << "  Dale";
-    QTest::newRow("blanks within stay") << "Da  le" << "Da  le";
-    QTest::newRow("a tabulator is no blank") << "Dale\t" << "Dale\t";
-    QTest::newRow("only blanks") << "   " << "";
+    QTest::newRow("another name") << "Dale"
+                                  << "Dale";
+    QTest::newRow("blanks at the end") << "Dale   "
+                                       << "Dale";
+    QTest::newRow("blanks at the beginning stay") << "  Dale  "
+                                                  << "  Dale";
+    QTest::newRow("blanks within stay") << "Da  le"
+                                        << "Da  le";
+    QTest::newRow("a tabulator is no blank") << "Dale\t"
+                                             << "Dale\t";
+    QTest::newRow("only blanks") << "   "
+                                 << "";
     QTest::newRow("the same with blanks") << "Hill  " << QString();
-    QTest::newRow("other letter case") << "hill" << "hill";
+    QTest::newRow("other letter case") << "hill"
+                                       << "hill";
 }
 
 void tst_CRkGraphicsProjectItems::editedName()

@@ -95,8 +95,8 @@ public:
     QString translate(const char* context, const char* sourceText, const char*, int) const override
     {
         return QLatin1String(context) == "CRkProjectManagerView"
-                   ? words.value(QString::fromUtf8(sourceText))
-                   : QString();
+            ? words.value(QString::fromUtf8(sourceText))
+            : QString();
     }
     bool isEmpty() const override { return words.isEmpty(); }
     QHash<QString, QString> words;
@@ -156,7 +156,10 @@ private slots:
     void userWithAQuote();
 
 private:
-    void project(const QString& name) { QVERIFY(!ProjectFixture{name}.write(m_home->projectRoot()).isEmpty()); }
+    void project(const QString& name)
+    {
+        QVERIFY(!ProjectFixture{name}.write(m_home->projectRoot()).isEmpty());
+    }
     void projects(int count)
     {
         for (int i = 0; i < count; ++i)
@@ -202,12 +205,13 @@ std::unique_ptr<CRkProjectManagerView> tst_CRkProjectManagerView::shownView(cons
     return view;
 }
 
-void tst_CRkProjectManagerView::click(CRkProjectManagerView& view, const QString& name, const QPoint& offset,
-                                      Qt::KeyboardModifiers modifiers)
+void tst_CRkProjectManagerView::click(CRkProjectManagerView& view, const QString& name,
+                                      const QPoint& offset, Qt::KeyboardModifiers modifiers)
 {
     const Tile* tile = tileNamed(view, name);
     QVERIFY(tile);
-    QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers, view.mapFromScene(tile->pos() + offset));
+    QTest::mouseClick(view.viewport(), Qt::LeftButton, modifiers,
+                      view.mapFromScene(tile->pos() + offset));
 }
 
 void tst_CRkProjectManagerView::construction()
@@ -221,7 +225,8 @@ void tst_CRkProjectManagerView::construction()
     QVERIFY(view.hasMouseTracking());
     QCOMPARE(view.horizontalScrollBarPolicy(), Qt::ScrollBarAlwaysOff);
     QCOMPARE(view.verticalScrollBarPolicy(), Qt::ScrollBarAsNeeded);
-    QCOMPARE(view.verticalScrollBar()->objectName(), QString("verticalScrollBarProjectManagerView"));
+    QCOMPARE(view.verticalScrollBar()->objectName(),
+             QString("verticalScrollBarProjectManagerView"));
     QCOMPARE(view.sceneRect(), QRectF(0, 0, 640, 480));
     QCOMPARE(view.GetProjectName(), QString());
     QVERIFY(!view.accessibleName().isEmpty());
@@ -234,11 +239,17 @@ void tst_CRkProjectManagerView::signalsAndSlotsInOrder()
     QStringList methods;
     for (int i = meta.methodOffset(); i < meta.methodCount(); ++i)
         methods.append(QString::fromLatin1(meta.method(i).methodSignature()));
-    const QStringList expected = {
-        "projectRenamed()", "projectCopied()", "projectDeleted()", "projectOpened(QString)",
-        "blockOpened(QString)", "slotNewProject()", "slotCopyProject()", "slotDeleteProject()",
-        "slotFilterConditionChanged(QString,QString,QString,QString)", "slotOpenProject()",
-        "slotRenameProjectItem(QString)"};
+    const QStringList expected = {"projectRenamed()",
+                                  "projectCopied()",
+                                  "projectDeleted()",
+                                  "projectOpened(QString)",
+                                  "blockOpened(QString)",
+                                  "slotNewProject()",
+                                  "slotCopyProject()",
+                                  "slotDeleteProject()",
+                                  "slotFilterConditionChanged(QString,QString,QString,QString)",
+                                  "slotOpenProject()",
+                                  "slotRenameProjectItem(QString)"};
     QCOMPARE(methods, expected);
 }
 
@@ -345,7 +356,8 @@ void tst_CRkProjectManagerView::tileParts()
     QCOMPARE(caption->GetPrjModifiedDateTime(), QString("2026-05-03 12:00:00"));
     QCOMPARE(caption->toPlainText(), QString("Hill"));
     const QString size = getHumanReadableFileSize(QFileInfo(tile->GetProjectFilePath()).size());
-    QCOMPARE(caption->toolTip(), "Name:Hill\n Size:" + size + "\n Modification time:2026-05-03 12:00:00");
+    QCOMPARE(caption->toolTip(),
+             "Name:Hill\n Size:" + size + "\n Modification time:2026-05-03 12:00:00");
 }
 
 void tst_CRkProjectManagerView::nameComesFromTheRow()
@@ -592,7 +604,8 @@ void tst_CRkProjectManagerView::translatedWords()
     QVERIFY(QCoreApplication::installTranslator(&translator));
     view.slotFilterConditionChanged(QStringLiteral("全部"), QStringLiteral("日期"), "", "");
     QCOMPARE(tilesOf(view).size(), 1);
-    view.slotFilterConditionChanged(QStringLiteral("城市"), QStringLiteral("2026-05-01 至 2026-05-03"), "", "");
+    view.slotFilterConditionChanged(QStringLiteral("城市"),
+                                    QStringLiteral("2026-05-01 至 2026-05-03"), "", "");
     QCOMPARE(tilesOf(view).size(), 1);
     view.slotFilterConditionChanged("", QStringLiteral("2026-05-04 至 2026-05-05"), "", "");
     QCOMPARE(tilesOf(view).size(), 0);
@@ -642,11 +655,13 @@ void tst_CRkProjectManagerView::hiddenTilesAreDeselected()
     project("Hill");
     project("Dale");
     CRkProjectManagerView view(nullptr);
+    const Tile* hill = tileNamed(view, "Hill");
     tileNamed(view, "Hill")->setSelected(true);
     view.slotFilterConditionChanged("", "", "", "hill");
     QCOMPARE(selectedNamesOf(view), QStringList("Hill"));
     view.slotFilterConditionChanged("", "", "", "dale");
     QCOMPARE(selectedNamesOf(view), QStringList());
+    QVERIFY(!hill->isSelected());
     tileNamed(view, "Dale")->setSelected(true);
     view.slotFilterConditionChanged("", "", "", "");
     QCOMPARE(selectedNamesOf(view), QStringList("Dale"));
@@ -789,7 +804,8 @@ void tst_CRkProjectManagerView::newProject()
     const Tile* tile = tilesOf(view).first();
     QCOMPARE(tile->GetProjectFilePath(), file);
     QCOMPARE(tile->GetSoftwareVersion(), VANTRELL_VERSION);
-    QCOMPARE(tile->GetImageItem()->pixmap().toImage(), QPixmap(":/images/Normal/Thumbnails.png").toImage());
+    QCOMPARE(tile->GetImageItem()->pixmap().toImage(),
+             QPixmap(":/images/Normal/Thumbnails.png").toImage());
     QVERIFY(tile->GetTextItem()->toolTip().contains("Size:0B"));
 
     const auto column = [&](const QString& name) {

@@ -52,13 +52,14 @@ QSet<QString> listedFiles(const CRkProjectManagerView& view)
 QMap<QString, QByteArray> contentOf(const QString& folder)
 {
     QMap<QString, QByteArray> content;
-    QDirIterator entries(folder, QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
+    QDirIterator entries(folder,
+                         QDir::AllEntries | QDir::Hidden | QDir::System | QDir::NoDotAndDotDot,
                          QDirIterator::Subdirectories);
     while (entries.hasNext()) {
         const QFileInfo entry(entries.next());
-        content[entry.filePath()] = entry.isDir() ? QByteArray("folder")
-                                                  : QCryptographicHash::hash(readFile(entry.filePath()),
-                                                                             QCryptographicHash::Sha256);
+        content[entry.filePath()] = entry.isDir()
+            ? QByteArray("folder")
+            : QCryptographicHash::hash(readFile(entry.filePath()), QCryptographicHash::Sha256);
     }
     return content;
 }
@@ -194,8 +195,8 @@ void tst_DamagedProjects::flippedBytes()
         const QString file = fileNamed(QString("flip %1").arg(i));
         const bool hasRow = readSql(file, row).value(0).toInt() > 0;
         const bool isWhole = hasRow && readSql(file, "pragma integrity_check") == QStringList("ok")
-                             && readSql(file, "select sql from sqlite_master")
-                                    == readSql(fileNamed("sound"), "select sql from sqlite_master");
+            && readSql(file, "select sql from sqlite_master")
+                == readSql(fileNamed("sound"), "select sql from sqlite_master");
         if (isWhole)
             QVERIFY2(listed.contains(file), qPrintable(file));
         if (!hasRow)
@@ -269,7 +270,8 @@ void tst_DamagedProjects::onlyReadable()
 void tst_DamagedProjects::withoutColumns_data()
 {
     QTest::addColumn<QString>("columns");
-    const QStringList all = {"project_name", "updated_at", "id", "software_version", "image_data", "user_id"};
+    const QStringList all = {"project_name",     "updated_at", "id",
+                             "software_version", "image_data", "user_id"};
     for (const QString& missing : all) {
         QStringList columns = all;
         columns.removeAll(missing);
@@ -282,7 +284,8 @@ void tst_DamagedProjects::withoutColumns()
 {
     QFETCH(QString, columns);
     QString values = columns;
-    values.replace("user_id", "'user-1'").replace(QRegularExpression("\\b[a-z_]+\\b(?!-|')"), "'x'");
+    values.replace("user_id", "'user-1'")
+        .replace(QRegularExpression("\\b[a-z_]+\\b(?!-|')"), "'x'");
     QVERIFY2(runSql(fileNamed("less"),
                     {"CREATE TABLE " + ProjectTableName + " (" + columns + ")",
                      "INSERT INTO " + ProjectTableName + " VALUES (" + values + ")"}),
@@ -294,33 +297,37 @@ void tst_DamagedProjects::textForNumbers()
 {
     // Nothing of this is read for the tile, so that the project is as sound as before.
     const QString file = project("words");
-    QVERIFY(runSql(file, {"UPDATE " + ProjectTableName
-                              + " SET version='many', map_scale='large', center_position_lat='north',"
-                                " updated_at='yesterday'",
-                          "UPDATE " + SurveyAreaTableName
-                              + " SET block_type='wide', survey_area_coordinate_points='north,east;a;1,b'"}));
+    QVERIFY(
+        runSql(file,
+               {"UPDATE " + ProjectTableName
+                    + " SET version='many', map_scale='large', center_position_lat='north',"
+                      " updated_at='yesterday'",
+                "UPDATE " + SurveyAreaTableName
+                    + " SET block_type='wide', survey_area_coordinate_points='north,east;a;1,b'"}));
     QCOMPARE(list(), QSet<QString>({fileNamed("sound"), file}));
 }
 
 void tst_DamagedProjects::nullEverywhere()
 {
     const QString file = project("null");
-    QVERIFY(runSql(file, {"UPDATE " + ProjectTableName
-                              + " SET project_name=NULL, id=NULL, updated_at=NULL, software_version=NULL,"
-                                " image_data=NULL",
-                          "UPDATE " + SurveyAreaTableName
-                              + " SET project_id='', survey_area_coordinate_points=NULL"}));
+    QVERIFY(runSql(file,
+                   {"UPDATE " + ProjectTableName
+                        + " SET project_name=NULL, id=NULL, updated_at=NULL, software_version=NULL,"
+                          " image_data=NULL",
+                    "UPDATE " + SurveyAreaTableName
+                        + " SET project_id='', survey_area_coordinate_points=NULL"}));
     QCOMPARE(list(), QSet<QString>({fileNamed("sound"), file}));
 }
 
 void tst_DamagedProjects::blobsForTexts()
 {
     const QString file = project("blobs");
-    QVERIFY(runSql(file, {"UPDATE " + ProjectTableName
-                              + " SET project_name=x'ff00fe', updated_at=x'00', software_version=zeroblob(9),"
-                                " image_data=CAST(image_data AS BLOB)",
-                          "UPDATE " + SurveyAreaTableName
-                              + " SET survey_area_coordinate_points=randomblob(5000)"}));
+    QVERIFY(runSql(
+        file,
+        {"UPDATE " + ProjectTableName
+             + " SET project_name=x'ff00fe', updated_at=x'00', software_version=zeroblob(9),"
+               " image_data=CAST(image_data AS BLOB)",
+         "UPDATE " + SurveyAreaTableName + " SET survey_area_coordinate_points=randomblob(5000)"}));
     QCOMPARE(list(), QSet<QString>({fileNamed("sound"), file}));
 }
 
@@ -349,7 +356,8 @@ void tst_DamagedProjects::largeImageData()
 
     QVERIFY(QFile::remove(fileNamed("sound")));
     const CRkProjectManagerView view(nullptr);
-    const auto* tile = dynamic_cast<CRkGraphicsProjectRectItem*>(view.scene()->items(Qt::AscendingOrder)[0]);
+    const auto* tile =
+        dynamic_cast<CRkGraphicsProjectRectItem*>(view.scene()->items(Qt::AscendingOrder)[0]);
     QVERIFY(tile);
     const QImage standard = QPixmap(":/images/Normal/Thumbnails.png").toImage();
     QCOMPARE(tile->GetImageItem()->pixmap().toImage() == standard, isDefault);
@@ -370,14 +378,17 @@ void tst_DamagedProjects::hugeValueFromALittleFile()
 void tst_DamagedProjects::viewForATable_data()
 {
     QTest::addColumn<QString>("query");
-    const QString columns = "'v' project_name, '' updated_at, '' id, '' software_version, '' image_data, ";
-    QTest::newRow("endless") << "WITH RECURSIVE n(i) AS (VALUES(1) UNION ALL SELECT i+1 FROM n) SELECT "
-                                    + columns + "CAST(i AS TEXT) user_id FROM n";
+    const QString columns =
+        "'v' project_name, '' updated_at, '' id, '' software_version, '' image_data, ";
+    QTest::newRow("endless")
+        << "WITH RECURSIVE n(i) AS (VALUES(1) UNION ALL SELECT i+1 FROM n) SELECT " + columns
+            + "CAST(i AS TEXT) user_id FROM n";
     QTest::newRow("of itself") << "SELECT * FROM " + ProjectTableName;
     QTest::newRow("endless, of a user")
         << "WITH RECURSIVE n(i) AS (VALUES(1) UNION ALL SELECT i+1 FROM n) SELECT " + columns
-               + "'user-1' user_id FROM n";
-    QTest::newRow("of a pragma") << "SELECT " + columns + "name user_id FROM pragma_table_info('x')";
+            + "'user-1' user_id FROM n";
+    QTest::newRow("of a pragma") << "SELECT " + columns
+            + "name user_id FROM pragma_table_info('x')";
 }
 
 void tst_DamagedProjects::viewForATable()
@@ -390,45 +401,52 @@ void tst_DamagedProjects::viewForATable()
 void tst_DamagedProjects::viewForTheAreas()
 {
     const QString file = project("areas");
-    QVERIFY(runSql(file, {"DROP TABLE " + SurveyAreaTableName,
-                          "CREATE VIEW " + SurveyAreaTableName.toUpper()
-                              + " AS WITH RECURSIVE n(i) AS (VALUES(1) UNION ALL SELECT i+1 FROM n)"
-                                " SELECT 'id-of-areas' project_id, i survey_area_coordinate_points FROM n"}));
+    QVERIFY(
+        runSql(file,
+               {"DROP TABLE " + SurveyAreaTableName,
+                "CREATE VIEW " + SurveyAreaTableName.toUpper()
+                    + " AS WITH RECURSIVE n(i) AS (VALUES(1) UNION ALL SELECT i+1 FROM n)"
+                      " SELECT 'id-of-areas' project_id, i survey_area_coordinate_points FROM n"}));
     QCOMPARE(list(), QSet<QString>({fileNamed("sound")}));
 }
 
 void tst_DamagedProjects::virtualTable()
 {
-    QVERIFY(runSql(fileNamed("virtual"),
-                   {"CREATE VIRTUAL TABLE " + ProjectTableName
-                        + " USING fts5(project_name, updated_at, id, software_version, image_data, user_id)",
-                    "INSERT INTO " + ProjectTableName + " (project_name, user_id) VALUES ('v', 'user-1')"}));
+    QVERIFY(runSql(
+        fileNamed("virtual"),
+        {"CREATE VIRTUAL TABLE " + ProjectTableName
+             + " USING fts5(project_name, updated_at, id, software_version, image_data, user_id)",
+         "INSERT INTO " + ProjectTableName + " (project_name, user_id) VALUES ('v', 'user-1')"}));
     QCOMPARE(list(), QSet<QString>({fileNamed("sound")}));
 }
 
 void tst_DamagedProjects::otherViewsAndColumns()
 {
     const QString file = project("views");
-    QVERIFY(runSql(file, {"CREATE VIEW names AS SELECT project_name FROM " + ProjectTableName,
-                          "ALTER TABLE " + ProjectTableName + " ADD COLUMN remark"}));
+    QVERIFY(runSql(file,
+                   {"CREATE VIEW names AS SELECT project_name FROM " + ProjectTableName,
+                    "ALTER TABLE " + ProjectTableName + " ADD COLUMN remark"}));
     QCOMPARE(list(), QSet<QString>({fileNamed("sound"), file}));
 }
 
 void tst_DamagedProjects::triggers()
 {
     const QString file = project("triggers");
-    QVERIFY(runSql(file, {"CREATE TRIGGER t AFTER UPDATE ON " + ProjectTableName + " BEGIN DELETE FROM "
-                          + ProjectTableName + "; END"}));
+    QVERIFY(runSql(file,
+                   {"CREATE TRIGGER t AFTER UPDATE ON " + ProjectTableName + " BEGIN DELETE FROM "
+                    + ProjectTableName + "; END"}));
     QCOMPARE(list(), QSet<QString>({fileNamed("sound"), file}));
 }
 
 void tst_DamagedProjects::thousandsOfOutlines()
 {
     const QString file = project("many");
-    QVERIFY(runSql(file, {"INSERT INTO " + SurveyAreaTableName
-                          + " (project_id, survey_area_coordinate_points)"
-                            " WITH RECURSIVE n(i) AS (VALUES(1) UNION ALL SELECT i+1 FROM n LIMIT 20000)"
-                            " SELECT 'id-of-many', printf('%f,%f;%f,100;30,%f', 20+i%30, 80+i%50, i, i) FROM n"}));
+    QVERIFY(runSql(
+        file,
+        {"INSERT INTO " + SurveyAreaTableName
+         + " (project_id, survey_area_coordinate_points)"
+           " WITH RECURSIVE n(i) AS (VALUES(1) UNION ALL SELECT i+1 FROM n LIMIT 20000)"
+           " SELECT 'id-of-many', printf('%f,%f;%f,100;30,%f', 20+i%30, 80+i%50, i, i) FROM n"}));
     QCOMPARE(list(), QSet<QString>({fileNamed("sound"), file}));
 }
 

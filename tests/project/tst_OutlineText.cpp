@@ -27,10 +27,14 @@ void tst_OutlineText::parse_data()
     QTest::newRow("empty pieces") << ";;30.5,104.1;;30.6,104.1;30.6,104.2;;" << triangle;
     QTest::newRow("a piece of one part") << "30.5,104.1;30.55;30.6,104.1;30.6,104.2" << triangle;
     QTest::newRow("a piece of three parts") << "30.5,104.1;1,2,3;30.6,104.1;30.6,104.2" << triangle;
-    QTest::newRow("an empty part counts as a part") << "30.5,104.1;1,2,;30.6,104.1;30.6,104.2" << triangle;
-    QTest::newRow("a part that is missing") << "30.5,104.1;1,;,2;,;30.6,104.1;30.6,104.2" << triangle;
-    QTest::newRow("words for numbers") << "30.5,104.1;north,east;30.6,104.1;30.6,x;30.6,104.2" << triangle;
-    QTest::newRow("not finite") << "nan,1;30.5,104.1;inf,2;30.6,104.1;3,-inf;1e999,2;30.6,104.2" << triangle;
+    QTest::newRow("an empty part counts as a part")
+        << "30.5,104.1;1,2,;30.6,104.1;30.6,104.2" << triangle;
+    QTest::newRow("a part that is missing")
+        << "30.5,104.1;1,;,2;,;30.6,104.1;30.6,104.2" << triangle;
+    QTest::newRow("words for numbers")
+        << "30.5,104.1;north,east;30.6,104.1;30.6,x;30.6,104.2" << triangle;
+    QTest::newRow("not finite") << "nan,1;30.5,104.1;inf,2;30.6,104.1;3,-inf;1e999,2;30.6,104.2"
+                                << triangle;
     QTest::newRow("blanks around numbers") << " 30.5 , 104.1 ;30.6, 104.1;30.6,104.2 " << triangle;
     QTest::newRow("exponents and signs") << "-3.05e1,+104.1" << Points({{-30.5, 104.1}});
     QTest::newRow("one point") << "30.5,104.1" << Points({{30.5, 104.1}});

@@ -58,7 +58,8 @@ void tst_ProjectListing::currentUserId()
 void tst_ProjectListing::files()
 {
     const QString root = m_home->projectRoot();
-    for (const char* file : {"a/a.proj", "a/b.proj", "a/c.txt", "b/deep/c.proj", "d.proj", "c/.proj"})
+    for (const char* file :
+         {"a/a.proj", "a/b.proj", "a/c.txt", "b/deep/c.proj", "d.proj", "c/.proj"})
         QVERIFY(writeFile(root + file, "x"));
     QStringList found = ProjectListing::projectFiles(root);
     found.sort();
@@ -80,7 +81,8 @@ void tst_ProjectListing::record()
     QCOMPARE(record->id, fixture.id);
     QCOMPARE(record->softwareVersion, QString("0.9.8"));
     QCOMPARE(record->imageData, fixture.imageData);
-    QCOMPARE(record->places.value(0), RkCityCategory::instance().GetCityName(PointLatLng(30.66, 104.07)));
+    QCOMPARE(record->places.value(0),
+             RkCityCategory::instance().GetCityName(PointLatLng(30.66, 104.07)));
 }
 
 void tst_ProjectListing::noRecord()
@@ -125,8 +127,9 @@ void tst_ProjectListing::blocks()
     ProjectFixture fixture{"Hill"};
     fixture.outlines = QStringList{squareAround(30.66, 104.07), squareAround(24.48, 118.10)};
     const QString file = fixture.write(m_home->projectRoot());
-    QVERIFY(runSql(file, {"INSERT INTO " + SurveyAreaTableName
-                          + " (project_id, survey_area_guid) VALUES ('id-of-Hill', NULL)"}));
+    QVERIFY(runSql(file,
+                   {"INSERT INTO " + SurveyAreaTableName
+                    + " (project_id, survey_area_guid) VALUES ('id-of-Hill', NULL)"}));
     const BlockPlaces blocks = ProjectListing::loadBlocks(file, "id-of-Hill", VANTRELL_VERSION);
     QCOMPARE(blocks.centres.size(), 2);
     QVERIFY(qAbs(blocks.centres[0].Lat() - 30.66) < 1e-6);

@@ -66,11 +66,12 @@ void tst_ProjectStoreSql::createTables()
 
 void tst_ProjectStoreSql::insertProject()
 {
-    QCOMPARE(ProjectStoreSql::insertProject(hill),
-             "INSERT INTO " + ProjectTableName
-                 + " (project_name,id,user_id,created_at,version,updated_at,software_version) "
-                   "VALUES ('Hill','id-1','user-1','2026-05-03 12:00:00','1','2026-05-03 12:00:00','"
-                 + VANTRELL_VERSION + "')");
+    QCOMPARE(
+        ProjectStoreSql::insertProject(hill),
+        "INSERT INTO " + ProjectTableName
+            + " (project_name,id,user_id,created_at,version,updated_at,software_version) "
+              "VALUES ('Hill','id-1','user-1','2026-05-03 12:00:00','1','2026-05-03 12:00:00','"
+            + VANTRELL_VERSION + "')");
 }
 
 void tst_ProjectStoreSql::valuesMayHoldMarkers()
@@ -83,13 +84,15 @@ void tst_ProjectStoreSql::selectProject()
 {
     QCOMPARE(ProjectStoreSql::selectProject("user-1"),
              "select * from " + ProjectTableName + " where user_id='user-1'");
-    QCOMPARE(ProjectStoreSql::selectProject(""), "select * from " + ProjectTableName + " where user_id=''");
+    QCOMPARE(ProjectStoreSql::selectProject(""),
+             "select * from " + ProjectTableName + " where user_id=''");
 }
 
 void tst_ProjectStoreSql::selectOutlines()
 {
     QCOMPARE(ProjectStoreSql::selectOutlines("id-1"),
-             "select survey_area_coordinate_points from " + SurveyAreaTableName + " where project_id='id-1'");
+             "select survey_area_coordinate_points from " + SurveyAreaTableName
+                 + " where project_id='id-1'");
 }
 
 void tst_ProjectStoreSql::selectBlocks()
@@ -146,10 +149,11 @@ void tst_ProjectStoreSql::copyOnAFile()
     QStringList statements = ProjectStoreSql::createTables();
     statements.append(ProjectStoreSql::insertProject(hill));
     for (const char* area : {"a", "b", "c"}) {
-        statements.append("INSERT INTO " + SurveyAreaTableName
-                          + QString(" (id, survey_area_guid, project_id, survey_area_coordinate_points)"
-                                    " VALUES ('%1','%1','id-1','outline %1')")
-                                .arg(area));
+        statements.append(
+            "INSERT INTO " + SurveyAreaTableName
+            + QString(" (id, survey_area_guid, project_id, survey_area_coordinate_points)"
+                      " VALUES ('%1','%1','id-1','outline %1')")
+                  .arg(area));
         statements.append("INSERT INTO " + MissionTableName
                           + QString(" (id, survey_block_id) VALUES ('m%1','%1')").arg(area));
     }
@@ -175,7 +179,8 @@ void tst_ProjectStoreSql::renameOnAFile()
     QVERIFY(runSql(m_file, {ProjectStoreSql::insertProject(hill)}));
     QCOMPARE(readSql(m_file, ProjectStoreSql::selectVersion()), QStringList("1"));
 
-    const QStringList statements = ProjectStoreSql::updateRenamed("Dale", "2", "2026-06-01 08:00:00");
+    const QStringList statements =
+        ProjectStoreSql::updateRenamed("Dale", "2", "2026-06-01 08:00:00");
     QVERIFY(runSql(m_file, {statements[0]}));
     QVERIFY(runSql(m_file, {statements[1]}));
     QVERIFY2(!runSql(m_file, {statements[2]}), "a time without quotes is no SQL");
@@ -187,7 +192,8 @@ void tst_ProjectStoreSql::renameOnAFile()
 void tst_ProjectStoreSql::quoteInANameChangesNothing()
 {
     QVERIFY(runSql(m_file, ProjectStoreSql::createTables()));
-    QVERIFY(!runSql(m_file, {ProjectStoreSql::insertProject({"Ben's Hill", "id", "user-1", hill.now})}));
+    QVERIFY(!runSql(m_file,
+                    {ProjectStoreSql::insertProject({"Ben's Hill", "id", "user-1", hill.now})}));
     QCOMPARE(readSql(m_file, ProjectStoreSql::selectProject("user-1")), QStringList());
 }
 
@@ -199,7 +205,8 @@ void tst_ProjectStoreSql::computedTables_data()
     QTest::newRow("as made") << "CREATE INDEX i ON " + areas + " (project_id)" << false;
     QTest::newRow("no such table") << "DROP TABLE " + areas << false;
     QTest::newRow("another view") << "CREATE VIEW v AS SELECT 1" << false;
-    QTest::newRow("a trigger") << "CREATE TRIGGER t DELETE ON " + areas + " BEGIN SELECT 1; END" << false;
+    QTest::newRow("a trigger") << "CREATE TRIGGER t DELETE ON " + areas + " BEGIN SELECT 1; END"
+                               << false;
     QTest::newRow("a generated column") << "ALTER TABLE " + areas + " ADD COLUMN c AS (1)" << true;
 }
 
@@ -211,8 +218,9 @@ void tst_ProjectStoreSql::computedTables()
     QTEST(!readSql(m_file, ProjectStoreSql::selectComputedTables()).isEmpty(), "isComputed");
 
     // The same table as a view, in other letters.
-    QVERIFY(runSql(m_file, {"ALTER TABLE " + ProjectTableName + " RENAME TO other",
-                            "CREATE VIEW " + ProjectTableName.toUpper() + " AS SELECT * FROM other"}));
+    QVERIFY(runSql(m_file,
+                   {"ALTER TABLE " + ProjectTableName + " RENAME TO other",
+                    "CREATE VIEW " + ProjectTableName.toUpper() + " AS SELECT * FROM other"}));
     QVERIFY(!readSql(m_file, ProjectStoreSql::selectComputedTables()).isEmpty());
 }
 

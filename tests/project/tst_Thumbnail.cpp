@@ -28,7 +28,8 @@ QImage pattern(int width, int height, QImage::Format format)
     QImage image(width, height, QImage::Format_ARGB32);
     for (int y = 0; y < height; ++y) {
         for (int x = 0; x < width; ++x)
-            image.setPixelColor(x, y, QColor((x * 37) % 256, (y * 59) % 256, (x * y) % 256, (x + y) % 256));
+            image.setPixelColor(
+                x, y, QColor((x * 37) % 256, (y * 59) % 256, (x * y) % 256, (x + y) % 256));
     }
     return image.convertToFormat(format);
 }
@@ -55,7 +56,8 @@ QImage literal(const QByteArray& file)
 
 QByteArray withDimensions(QByteArray png, quint32 width, quint32 height)
 {
-    const int header = 12; // The type of the first chunk follows the signature and the chunk's length.
+    const int header =
+        12; // The type of the first chunk follows the signature and the chunk's length.
     qToBigEndian(width, png.data() + header + 4);
     qToBigEndian(height, png.data() + header + 8);
     quint32 crc = 0xFFFFFFFFU;
@@ -130,7 +132,8 @@ void tst_Thumbnail::everyFormat_data()
     const QList<QByteArray> formats = QImageWriter::supportedImageFormats();
     QVERIFY(formats.contains("png") && formats.contains("jpg") && formats.contains("bmp"));
     for (const QByteArray& format : formats) {
-        if (format != "ico" && format != "cur" && QImageReader::supportedImageFormats().contains(format))
+        if (format != "ico" && format != "cur"
+            && QImageReader::supportedImageFormats().contains(format))
             QTest::newRow(format.constData()) << format;
     }
 }
@@ -138,8 +141,10 @@ void tst_Thumbnail::everyFormat_data()
 void tst_Thumbnail::everyFormat()
 {
     QFETCH(QByteArray, format);
-    for (const QSize size : {QSize(380, 286), QSize(190, 143), QSize(7, 5), QSize(1, 1), QSize(1000, 20)}) {
-        const QByteArray file = fileOf(pattern(size.width(), size.height(), QImage::Format_RGB32), format);
+    for (const QSize size :
+         {QSize(380, 286), QSize(190, 143), QSize(7, 5), QSize(1, 1), QSize(1000, 20)}) {
+        const QByteArray file =
+            fileOf(pattern(size.width(), size.height(), QImage::Format_RGB32), format);
         QVERIFY(!file.isEmpty());
         const QImage thumbnail = Thumbnail::decode(file.toBase64());
         QCOMPARE(thumbnail.size(), QSize(190, 143));
