@@ -75,8 +75,6 @@ private:
         if (!atEnd() && *m_position == '.') {
             ++m_position;
             decimals = readDigits(mantissa);
-            if (decimals == 0)
-                return false;
         }
         if (whole == 0 || whole + decimals > maximumDigits || !atSeparator())
             return false;

@@ -146,6 +146,7 @@ private slots:
     void searchesByKeyword_data();
     void searchesByKeyword();
     void keepsCitiesOfAProvinceWithAQuoteEmpty();
+    void listsCitiesOfTheProvinceNotOfItsNamesake();
     void firstLetterBlankIsNoFirstProvince();
     void staysEmptyWithoutUsableFile_data();
     void staysEmptyWithoutUsableFile();
@@ -302,6 +303,20 @@ void tst_RkCityCategory::keepsCitiesOfAProvinceWithAQuoteEmpty()
     QCOMPARE(report.value("provinceToCities").toObject(), (QJsonObject{{"Xi'an", QJsonArray()}}));
     QCOMPARE(report.value("letterToCities").toObject(),
              (QJsonObject{{"'", QJsonArray()}, {"C", list({"Child"})}}));
+}
+
+void tst_RkCityCategory::listsCitiesOfTheProvinceNotOfItsNamesake()
+{
+    const ProbedFolder folder;
+    QVERIFY(runSql(folder.file(),
+                   {createTable, "insert into city values (5, 'Twin', 'T', 6, 2, 1, 2, '')",
+                    "insert into city values (6, 'Twin', 'T', 1, 1, 3, 4, '')",
+                    "insert into city values (7, 'Child', 'C', 6, 2, 1, 2, '')"}));
+    const QJsonObject report = folder.probe();
+    QCOMPARE(report.value("provinceToCities").toObject(),
+             (QJsonObject{{"Twin", list({"Twin", "Child"})}}));
+    QCOMPARE(report.value("radiusByName").toObject(),
+             (QJsonObject{{"Twin", "800"}, {"Child", "300"}}));
 }
 
 void tst_RkCityCategory::firstLetterBlankIsNoFirstProvince()
