@@ -21,8 +21,13 @@ constexpr int piecesPerCorner = 4;
 constexpr int piecesPerPolygon = 4 * cellsPerSide;
 constexpr int nothing = -1;
 
-/// The ring as the fill rule sees it: closed unless its ends already coincide, by the toolkit's
-/// measure.
+constexpr std::size_t cellAt(int column, int row)
+{
+    return static_cast<std::size_t>(row) * cellsPerSide + static_cast<std::size_t>(column);
+}
+
+/// The ring as the fill rule sees it: closed unless its ends already coincide, by the
+/// toolkit's measure.
 QPolygonF closed(QPolygonF polygon)
 {
     if (!polygon.isEmpty() && polygon.constLast() != polygon.constFirst())
@@ -124,7 +129,7 @@ bool BandedPolygon::isEven(const QPolygonF& polygon)
 
 BoundaryIndex::BoundaryIndex(const QVector<QPolygonF>& polygons)
     : m_polygons(static_cast<std::size_t>(polygons.size()))
-    , m_cells(cellsPerSide * cellsPerSide, nothing)
+    , m_cells(cellAt(0, cellsPerSide), nothing)
 {
     for (int i = 0; i < polygons.size(); ++i) {
         if (BandedPolygon::isEven(polygons.at(i)))
@@ -180,8 +185,7 @@ QPointF BoundaryIndex::centre(int column, int row) const
 BoundaryIndex::CellRange BoundaryIndex::cellsAround(const QPointF& corner,
                                                     const QPointF& opposite) const
 {
-    // Cell numbers never fall as coordinates rise, so no rounding lets a point slip out of the
-    // range.
+    // Cell numbers never fall as coordinates rise: no rounding lets a point slip out of the range.
     constexpr double slack = BandedPolygon::tolerance;
     return {column(std::min(corner.x(), opposite.x()) - slack),
             column(std::max(corner.x(), opposite.x()) + slack),
@@ -207,7 +211,7 @@ bool BoundaryIndex::markOutline(int polygon, std::vector<int>& marks) const
                                                 from + step * (double(piece + 1) / pieces));
             for (int row = cells.bottom; row <= cells.top; ++row) {
                 for (int column = cells.left; column <= cells.right; ++column)
-                    marks[static_cast<std::size_t>(row * cellsPerSide + column)] = polygon;
+                    marks[cellAt(column, row)] = polygon;
             }
         }
     }
@@ -220,12 +224,11 @@ void BoundaryIndex::addPolygon(int polygon, const std::vector<int>& marks)
     const QRectF bounds = shape.ring().boundingRect();
     const CellRange range = cellsAround(bounds.topLeft(), bounds.bottomRight());
     for (int row = range.bottom; row <= range.top; ++row) {
-        // Neighbours with no outline in them lie on the same side of it: one answer serves them
-        // all.
+        // Neighbours with no outline in them lie on one side of it: one answer serves them all.
         bool known = false;
         bool inside = false;
         for (int column = range.left; column <= range.right; ++column) {
-            const auto cell = static_cast<std::size_t>(row * cellsPerSide + column);
+            const std::size_t cell = cellAt(column, row);
             if (marks[cell] == polygon) {
                 m_candidates.push_back({polygon, m_cells[cell]});
                 m_cells[cell] = static_cast<int>(m_polygons.size() + m_candidates.size()) - 1;
@@ -248,8 +251,7 @@ int BoundaryIndex::firstInGrid(const QPointF& point) const
         return nothing;
     }
     const int polygonCount = static_cast<int>(m_polygons.size());
-    int entry =
-        m_cells[static_cast<std::size_t>(row(point.y()) * cellsPerSide + column(point.x()))];
+    int entry = m_cells[cellAt(column(point.x()), row(point.y()))];
     while (entry >= polygonCount) {
         const Candidate candidate = m_candidates[static_cast<std::size_t>(entry - polygonCount)];
         if (m_polygons[static_cast<std::size_t>(candidate.polygon)].contains(point))
