@@ -32,8 +32,8 @@ inline bool report(const char* name, long size, double ours, double floor, doubl
 {
     const double ratio = ours / floor;
     const bool met = ratio <= limit;
-    std::printf("%-44s %9ld %11.3f ms %11.3f ms %8.3f (<= %g) %s\n", name, size, ours * 1e3, floor * 1e3,
-                ratio, limit, met ? "ok" : "MISSED");
+    std::printf("%-44s %9ld %11.3f ms %11.3f ms %8.3f (<= %g) %s\n", name, size, ours * 1e3,
+                floor * 1e3, ratio, limit, met ? "ok" : "MISSED");
     std::fflush(stdout);
     return met;
 }

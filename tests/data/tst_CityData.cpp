@@ -42,24 +42,25 @@ private slots:
     void frequentCities();
 
 private:
-    struct Place {
+    struct Place
+    {
         int id = 0;
         QString name;
         QString letter;
         int parentId = 0;
         int level = 0;
-        QPointF centre;      ///< x latitude, y longitude
-        QPolygonF boundary;  ///< x latitude, y longitude; joined rings for the odd-even rule
+        QPointF centre; ///< x latitude, y longitude
+        QPolygonF boundary; ///< x latitude, y longitude; joined rings for the odd-even rule
     };
 
-    std::vector<const Place *> placesAt(const QPointF &point) const;
+    std::vector<const Place*> placesAt(const QPointF& point) const;
     QString cityAt(double lat, double lng) const;
-    const Place *byName(const QString &name) const;
+    const Place* byName(const QString& name) const;
 
     std::vector<Place> m_places;
-    std::vector<const Place *> m_provinces;
-    std::vector<const Place *> m_cities;
-    std::vector<QRectF> m_boxes;  ///< of m_cities, one each
+    std::vector<const Place*> m_provinces;
+    std::vector<const Place*> m_cities;
+    std::vector<QRectF> m_boxes; ///< of m_cities, one each
 };
 
 namespace {
@@ -67,11 +68,11 @@ namespace {
 const QString connectionName = QStringLiteral("CityData");
 
 /// Reads "lng,lat;lng,lat"; an empty polygon when anything in it is not a number.
-QPolygonF parsePolyline(const QString &text)
+QPolygonF parsePolyline(const QString& text)
 {
     QPolygonF polygon;
     const QStringList points = text.split(QLatin1Char(';'));
-    for (const QString &point : points) {
+    for (const QString& point : points) {
         const QStringList parts = point.split(QLatin1Char(','));
         bool lngOk = false;
         bool latOk = false;
@@ -86,7 +87,7 @@ QPolygonF parsePolyline(const QString &text)
 }
 
 /// Runs the query on the catalogue's connection and gives back its first column.
-QStringList column(const QString &sql)
+QStringList column(const QString& sql)
 {
     QStringList values;
     QSqlQuery query(QSqlDatabase::database(connectionName));
@@ -99,7 +100,7 @@ QStringList column(const QString &sql)
     return values;
 }
 
-void knownPlace(const char *place, double lat, double lng, const char *city)
+void knownPlace(const char* place, double lat, double lng, const char* city)
 {
     QTest::newRow(place) << lat << lng << QString::fromUtf8(city);
 }
@@ -117,8 +118,8 @@ void tst_CityData::initTestCase()
     QVERIFY(database.open());
 
     QSqlQuery query(database);
-    QVERIFY(query.exec(QStringLiteral(
-        "select id,name,letter,parent_id,level,lat,lng,polyline from city")));
+    QVERIFY(query.exec(
+        QStringLiteral("select id,name,letter,parent_id,level,lat,lng,polyline from city")));
     while (query.next()) {
         Place place;
         place.id = query.value(0).toInt();
@@ -130,10 +131,10 @@ void tst_CityData::initTestCase()
         place.boundary = parsePolyline(query.value(7).toString());
         m_places.push_back(place);
     }
-    for (const Place &place : m_places) {
+    for (const Place& place : m_places) {
         (place.parentId == 1 ? m_provinces : m_cities).push_back(&place);
     }
-    for (const Place *city : m_cities) {
+    for (const Place* city : m_cities) {
         m_boxes.push_back(city->boundary.boundingRect());
     }
 }
@@ -143,9 +144,9 @@ void tst_CityData::cleanupTestCase()
     QSqlDatabase::removeDatabase(connectionName);
 }
 
-std::vector<const tst_CityData::Place *> tst_CityData::placesAt(const QPointF &point) const
+std::vector<const tst_CityData::Place*> tst_CityData::placesAt(const QPointF& point) const
 {
-    std::vector<const Place *> found;
+    std::vector<const Place*> found;
     for (std::size_t i = 0; i < m_cities.size(); ++i) {
         if (m_boxes[i].contains(point)
             && m_cities[i]->boundary.containsPoint(point, Qt::OddEvenFill)) {
@@ -157,13 +158,13 @@ std::vector<const tst_CityData::Place *> tst_CityData::placesAt(const QPointF &p
 
 QString tst_CityData::cityAt(double lat, double lng) const
 {
-    const std::vector<const Place *> found = placesAt(QPointF(lat, lng));
+    const std::vector<const Place*> found = placesAt(QPointF(lat, lng));
     return found.empty() ? QString() : found.front()->name;
 }
 
-const tst_CityData::Place *tst_CityData::byName(const QString &name) const
+const tst_CityData::Place* tst_CityData::byName(const QString& name) const
 {
-    for (const Place &place : m_places) {
+    for (const Place& place : m_places) {
         if (place.name == name) {
             return &place;
         }
@@ -185,7 +186,7 @@ void tst_CityData::counts()
 
 void tst_CityData::provincesHaveNoBoundary()
 {
-    for (const Place *province : m_provinces) {
+    for (const Place* province : m_provinces) {
         QCOMPARE(province->level, 1);
         QVERIFY2(province->boundary.isEmpty(), qPrintable(province->name));
     }
@@ -194,13 +195,13 @@ void tst_CityData::provincesHaveNoBoundary()
 void tst_CityData::everyCityIsListedUnderItsProvince()
 {
     QSet<QString> listed;
-    for (const Place *province : m_provinces) {
+    for (const Place* province : m_provinces) {
         const QStringList cities = column(QStringLiteral("select name from city where parent_id = "
                                                          "(select id from city where name = '%1' "
                                                          "and parent_id = 1)")
                                               .arg(province->name));
         QVERIFY2(!cities.isEmpty(), qPrintable(province->name));
-        for (const QString &city : cities) {
+        for (const QString& city : cities) {
             QVERIFY2(!listed.contains(city), qPrintable(city));
             listed.insert(city);
             // The codes nest, so a city put below another province shows.
@@ -214,14 +215,14 @@ void tst_CityData::everyCityIsListedUnderItsLetter()
 {
     const QStringList letters = column(QStringLiteral("select distinct letter from city"));
     QSet<QString> listed;
-    for (const QString &letter : letters) {
+    for (const QString& letter : letters) {
         QCOMPARE(letter.size(), 1);
         QVERIFY2(letter.at(0) >= QLatin1Char('A') && letter.at(0) <= QLatin1Char('Z'),
                  qPrintable(letter));
         const QStringList cities =
             column(QStringLiteral("select name from city where parent_id <> 1 and letter = '%1'")
                        .arg(letter));
-        for (const QString &city : cities) {
+        for (const QString& city : cities) {
             QVERIFY2(!listed.contains(city), qPrintable(city));
             listed.insert(city);
         }
@@ -233,7 +234,7 @@ void tst_CityData::lettersFollowTheChineseName_data()
 {
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("letter");
-    const auto row = [](const char *name, const char *letter) {
+    const auto row = [](const char* name, const char* letter) {
         QTest::newRow(name) << QString::fromUtf8(name) << QString::fromLatin1(letter);
     };
     row("Chongqing City 重庆市", "C");
@@ -257,7 +258,7 @@ void tst_CityData::lettersFollowTheChineseName()
 {
     QFETCH(QString, name);
     QFETCH(QString, letter);
-    const Place *place = byName(name);
+    const Place* place = byName(name);
     QVERIFY(place != nullptr);
     QCOMPARE(place->letter, letter);
 }
@@ -267,7 +268,7 @@ void tst_CityData::namesAreUnique()
     QSet<QString> full;
     QSet<QString> latin;
     QSet<QString> chinese;
-    for (const Place &place : m_places) {
+    for (const Place& place : m_places) {
         // The Latin half holds blanks of its own, the Chinese half none.
         const int gap = place.name.lastIndexOf(QLatin1Char(' '));
         QVERIFY2(gap > 0, qPrintable(place.name));
@@ -283,7 +284,7 @@ void tst_CityData::namesAreUnique()
 
 void tst_CityData::boundariesAreWellFormed()
 {
-    for (const Place *city : m_cities) {
+    for (const Place* city : m_cities) {
         QCOMPARE(city->level, 2);
         QVERIFY2(city->boundary.size() >= 4, qPrintable(city->name));
         QVERIFY2(city->boundary.isClosed(), qPrintable(city->name));
@@ -294,15 +295,15 @@ void tst_CityData::boundariesAreWellFormed()
 
 void tst_CityData::everyCentreLiesInItsOwnBoundaryFirst()
 {
-    for (const Place *city : m_cities) {
+    for (const Place* city : m_cities) {
         QCOMPARE(cityAt(city->centre.x(), city->centre.y()), city->name);
     }
 }
 
 void tst_CityData::provinceCentresLieInTheProvince()
 {
-    for (const Place *province : m_provinces) {
-        const std::vector<const Place *> found = placesAt(province->centre);
+    for (const Place* province : m_provinces) {
+        const std::vector<const Place*> found = placesAt(province->centre);
         QVERIFY2(!found.empty(), qPrintable(province->name));
         QCOMPARE(found.front()->parentId, province->id);
     }
@@ -426,7 +427,7 @@ void tst_CityData::noPointLiesInTwoCities()
     int inside = 0;
     for (int i = 0; i < 300000; ++i) {
         const QPointF point(latitude(random), longitude(random));
-        const std::vector<const Place *> found = placesAt(point);
+        const std::vector<const Place*> found = placesAt(point);
         inside += found.empty() ? 0 : 1;
         QVERIFY2(found.size() <= 1,
                  qPrintable(QStringLiteral("%1,%2").arg(point.x()).arg(point.y())));
@@ -457,7 +458,7 @@ void tst_CityData::frequentCities()
     QFETCH(QString, chinese);
     // As a filter sees them: "Hangzhou" is no part of "Zhangzhou" or "Changzhou" as spelt.
     QStringList cities;
-    for (const Place *city : m_cities) {
+    for (const Place* city : m_cities) {
         if (city->name.contains(latin)) {
             cities << city->name;
         }
@@ -465,7 +466,7 @@ void tst_CityData::frequentCities()
     QCOMPARE(cities.size(), 1);
     QVERIFY(cities.first().contains(chinese));
 
-    for (const QString &keyword : {latin, chinese}) {
+    for (const QString& keyword : {latin, chinese}) {
         const QStringList found =
             column(QStringLiteral("select name from city where name like '%%1%'").arg(keyword));
         QVERIFY2(found.contains(cities.first()), qPrintable(keyword));

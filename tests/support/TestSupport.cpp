@@ -14,7 +14,8 @@
 
 namespace {
 
-// Settings names of the reference platform; written out because the support library knows no platform.
+// Settings names of the reference platform; written out because the support library knows no
+// platform.
 const char* const organizationName = "RkOrganization";
 const char* const cloudApplicationName = "RkCloud";
 
@@ -28,7 +29,8 @@ public:
         m_database = QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), m_name);
         m_database.setDatabaseName(file);
         m_database.open();
-        QSqlQuery(m_database).exec(QStringLiteral("PRAGMA synchronous=OFF")); // Nothing here must survive.
+        QSqlQuery(m_database)
+            .exec(QStringLiteral("PRAGMA synchronous=OFF")); // Nothing here must survive.
     }
     ~Connection()
     {
@@ -72,7 +74,8 @@ QString TestHome::projectRoot() const
 
 void TestHome::setCurrentUserId(const QString& userId)
 {
-    QSettings settings(QString::fromLatin1(organizationName), QString::fromLatin1(cloudApplicationName));
+    QSettings settings(QString::fromLatin1(organizationName),
+                       QString::fromLatin1(cloudApplicationName));
     settings.setValue(QStringLiteral("UserInfo/UserID"), userId);
 }
 
@@ -109,5 +112,5 @@ bool writeFile(const QString& path, const QByteArray& content)
 {
     QFile file(path);
     return QDir().mkpath(QFileInfo(path).absolutePath()) && file.open(QIODevice::WriteOnly)
-           && file.write(content) == content.size();
+        && file.write(content) == content.size();
 }

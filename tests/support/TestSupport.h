@@ -7,8 +7,8 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
-/// A home of its own for one test: settings, documents and the project root lie in a temporary folder
-/// that disappears with the object. Construct it before the first QSettings of the process.
+/// A home of its own for one test: settings, documents and the project root lie in a temporary
+/// folder that disappears with the object. Construct it before the first QSettings of the process.
 ///
 ///     TestHome home;
 ///     home.setCurrentUserId("user-1");
@@ -33,7 +33,8 @@ private:
     QTemporaryDir m_dir;
 };
 
-/// Runs the statements on the SQLite file, which is made when it is missing. False on the first failure.
+/// Runs the statements on the SQLite file, which is made when it is missing. False on the first
+/// failure.
 bool runSql(const QString& file, const QStringList& statements);
 
 /// The first column of every row that the statement gives, as text. Empty on failure.

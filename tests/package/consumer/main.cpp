@@ -11,12 +11,13 @@
 
 #include <memory>
 
-/// Uses one thing of every kind that the package brings: a dialog, a free function, the catalogue with
-/// its data, a translation and a platform class.
+/// Uses one thing of every kind that the package brings: a dialog, a free function, the catalogue
+/// with its data, a translation and a platform class.
 int main(int argc, char** argv)
 {
     QApplication application(argc, argv);
-    const std::unique_ptr<QTranslator> translator(CreateTranslator(QStringLiteral("RkBaseUI_zh_CN")));
+    const std::unique_ptr<QTranslator> translator(
+        CreateTranslator(QStringLiteral("RkBaseUI_zh_CN")));
 
     CRkBaseDialog dialog(nullptr);
     auto* layout = new QHBoxLayout;
@@ -25,6 +26,6 @@ int main(int argc, char** argv)
 
     const QString city = RkCityCategory::instance().GetCityName(PointLatLng(30.66, 104.06));
     const bool complete = !translator->isEmpty() && city.contains(QLatin1String("Chengdu"))
-                          && CRkControl::GetProjectDirPath().endsWith(QLatin1Char('/'));
+        && CRkControl::GetProjectDirPath().endsWith(QLatin1Char('/'));
     return complete ? 0 : 1;
 }
