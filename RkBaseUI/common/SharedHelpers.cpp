@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The RkBaseUI developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
-#include <RkBaseUI/SharedHelpers.h>
+#include "common/SharedHelpers.h"
 
 #include <QCoreApplication>
 #include <QTranslator>
@@ -32,7 +32,7 @@ bool FileNameContainsNotAllowChar(const QString& name)
 
 QString getHumanReadableFileSize(qint64 bytes)
 {
-    // The terminating U+0000 is the unit of sizes from 2^60 on; programs know these texts so.
+    // U+0000 as the unit from 2^60 bytes on is kept on purpose: programs expect these texts.
     constexpr QChar units[] = {u'K', u'M', u'G', u'T', u'P', u'\0'};
     constexpr int lastUnit = int(std::size(units)) - 1;
 

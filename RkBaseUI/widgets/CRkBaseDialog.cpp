@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The RkBaseUI developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
-#include <RkBaseUI/CRkBaseDialog.h>
+#include "widgets/CRkBaseDialog.h"
 
 #include "ui_CRkBaseDialog.h"
 
@@ -55,7 +55,7 @@ void CRkBaseDialog::SetBtnHidden(bool okHidden, bool cancelHidden, bool closeHid
 
 void CRkBaseDialog::SetFrameHidden(bool hidden)
 {
-    m_ui->widget_2->setHidden(hidden);
+    titleBar()->setHidden(hidden);
 }
 
 void CRkBaseDialog::SetWindowTitle(const QString& title)
@@ -125,7 +125,7 @@ QPushButton* CRkBaseDialog::cancelButton() const
 
 void CRkBaseDialog::mousePressEvent(QMouseEvent* event)
 {
-    if ((event->buttons() & Qt::LeftButton) && m_ui->widget_2->rect().contains(event->pos())) {
+    if ((event->buttons() & Qt::LeftButton) && titleBar()->rect().contains(event->pos())) {
         m_dragOffset = event->globalPos() - pos();
         m_dragging = true;
     }

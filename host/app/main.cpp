@@ -137,6 +137,7 @@ int main(int argc, char* argv[])
             << parser.helpText();
         return isUnderstood ? 0 : 2;
     }
+    QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     QApplication::setStyle(QStringLiteral("Fusion"));
     const QApplication application(argc, argv);

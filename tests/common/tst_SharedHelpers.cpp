@@ -4,6 +4,8 @@
 #include <RkBaseUI/SharedHelpers.h>
 
 #include <QCoreApplication>
+#include <QFileInfo>
+#include <QTemporaryFile>
 #include <QTest>
 #include <QTranslator>
 
@@ -31,6 +33,7 @@ private slots:
     void translatorLoadsFromLangFolder();
     void translatorOfMissingFileIsEmpty_data();
     void translatorOfMissingFileIsEmpty();
+    void translatorOfDamagedFileIsEmpty();
 };
 
 void tst_SharedHelpers::fileNameContainsNotAllowChar_data()
@@ -100,12 +103,18 @@ void tst_SharedHelpers::uidToString_data()
     QTest::addColumn<QString>("key");
     QTest::newRow("braced") << "{6F9619FF-8B86-D011-B42D-00C04FC964FF}"
                             << "6F9619FF8B86D011B42D00C04FC964FF";
-    QTest::newRow("letter case kept") << "{6f9619FF-aB}" << "6f9619FFaB";
-    QTest::newRow("nothing to remove") << "6F9619FF8B86" << "6F9619FF8B86";
-    QTest::newRow("signs anywhere") << "-}a{{-b}-" << "ab";
-    QTest::newRow("other brackets stay") << "(a)[b]_c" << "(a)[b]_c";
-    QTest::newRow("nothing left") << "{-}" << "";
-    QTest::newRow("empty") << "" << "";
+    QTest::newRow("letter case kept") << "{6f9619FF-aB}"
+                                      << "6f9619FFaB";
+    QTest::newRow("nothing to remove") << "6F9619FF8B86"
+                                       << "6F9619FF8B86";
+    QTest::newRow("signs anywhere") << "-}a{{-b}-"
+                                    << "ab";
+    QTest::newRow("other brackets stay") << "(a)[b]_c"
+                                         << "(a)[b]_c";
+    QTest::newRow("nothing left") << "{-}"
+                                  << "";
+    QTest::newRow("empty") << ""
+                           << "";
 }
 
 void tst_SharedHelpers::uidToString()
@@ -149,6 +158,7 @@ void tst_SharedHelpers::translatorLoadsFromLangFolder()
     QVERIFY(!translator->parent());
     QCOMPARE(translator->filePath(),
              QCoreApplication::applicationDirPath() + "/lang/RkBaseUI_zh_CN.qm");
+    QCOMPARE(translator->translate("CRkBaseDialog", "Cancel"), QString::fromUtf8("取消"));
 }
 
 void tst_SharedHelpers::translatorOfMissingFileIsEmpty_data()
@@ -167,6 +177,18 @@ void tst_SharedHelpers::translatorOfMissingFileIsEmpty()
     QVERIFY(translator->isEmpty());
     QVERIFY(!translator->parent());
     QVERIFY(translator->translate("Any", "text").isNull());
+}
+
+void tst_SharedHelpers::translatorOfDamagedFileIsEmpty()
+{
+    QTemporaryFile file(QCoreApplication::applicationDirPath() + "/lang/XXXXXX.qm");
+    QVERIFY(file.open());
+    QVERIFY(file.write("no translations") > 0);
+    QVERIFY(file.flush());
+    const std::unique_ptr<QTranslator> translator(
+        CreateTranslator(QFileInfo(file.fileName()).fileName()));
+    QVERIFY(translator);
+    QVERIFY(translator->isEmpty());
 }
 
 QTEST_GUILESS_MAIN(tst_SharedHelpers)

@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QGridLayout>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMetaMethod>
@@ -14,8 +15,10 @@
 #include <QTest>
 #include <QTimer>
 #include <QTranslator>
+#include <QVBoxLayout>
 
 #include <functional>
+#include <memory>
 
 namespace {
 
@@ -62,6 +65,17 @@ template <typename T>
 T* part(const QWidget& dialog, const char* name)
 {
     return dialog.findChild<T*>(QString::fromLatin1(name));
+}
+
+/// The cells of the layout's item `index`: column, row, columns, rows.
+QRect cellsOf(const QGridLayout& grid, int index)
+{
+    int row = -1;
+    int column = -1;
+    int rows = -1;
+    int columns = -1;
+    grid.getItemPosition(index, &row, &column, &rows, &columns);
+    return {column, row, columns, rows};
 }
 
 using Action = void (*)(Dialog&);
@@ -237,12 +251,7 @@ void tst_CRkBaseDialog::places()
         const QWidget* widget = grid->itemAt(i)->widget();
         if ((widget ? widget->objectName() : QString()) != name)
             continue;
-        int row = -1;
-        int column = -1;
-        int rows = -1;
-        int columns = -1;
-        grid->getItemPosition(i, &row, &column, &rows, &columns);
-        QCOMPARE(QRect(column, row, columns, rows), cells);
+        QCOMPARE(cellsOf(*grid, i), cells);
         return;
     }
     QFAIL("not in the layout");
@@ -325,6 +334,15 @@ void tst_CRkBaseDialog::styleSheets_data()
     QTest::newRow("title")
         << "m_pLalTitle"
         << "color: rgb(255, 255, 255);\nbackground-color: rgba(255, 255, 255,0);";
+    QTest::newRow("close button")
+        << "m_pBtnClose"
+        << "QPushButton#m_pBtnClose{\nbackground-color:transparent;\n"
+           "\tbackground-image: url(:/images/Normal/eng_close_but_nor.png);\n"
+           "\tbackground-repeat:none;\n\tbackground-position:center;\nborder: none;\n}\n"
+           "QPushButton#m_pBtnClose::hover{\n"
+           "background-image: url(:/images/Normal/eng_close_but_hov.png);\n}\n"
+           "QPushButton#m_pBtnClose::pressed{\n"
+           "background-image: url(:/images/Normal/eng_close_but_per.png);\n}";
     QTest::newRow("content") << "widget"
                              << "background-color: rgb(255, 255, 255);";
     QTest::newRow("OK") << "m_pBtnOK" << buttonSheet("m_pBtnOK", "\n\n\t");
@@ -401,12 +419,7 @@ void tst_CRkBaseDialog::addLayout()
     layout->addWidget(label);
     dialog.AddLayout(layout);
     QCOMPARE(content->count(), 1);
-    int row = -1;
-    int column = -1;
-    int rows = -1;
-    int columns = -1;
-    content->getItemPosition(0, &row, &column, &rows, &columns);
-    QCOMPARE(QRect(column, row, columns, rows), QRect(0, 1, 1, 1));
+    QCOMPARE(cellsOf(*content, 0), QRect(0, 1, 1, 1));
     QCOMPARE(layout->parent(), content);
     QCOMPARE(label->parentWidget(), part<QWidget>(dialog, "widget"));
 

@@ -16,7 +16,9 @@ class Widget : public CRkBaseWidget
 {
 public:
     using CRkBaseWidget::CRkBaseWidget;
+    using CRkBaseWidget::mouseMoveEvent;
     using CRkBaseWidget::mousePressEvent;
+    using CRkBaseWidget::mouseReleaseEvent;
     using CRkBaseWidget::showEvent;
 };
 
@@ -175,13 +177,17 @@ void tst_CRkBaseWidget::disablingStopsDragAtOnce()
 
 void tst_CRkBaseWidget::eventsReachTheBaseHandler()
 {
-    // The base handler refuses a press, so that Qt looks for somebody else.
+    // The base handlers refuse every mouse event, so that Qt looks for somebody else.
     Widget widget(nullptr);
-    QMouseEvent press(QEvent::MouseButtonPress, {5, 5}, {5, 5}, Qt::LeftButton, Qt::LeftButton,
-                      Qt::NoModifier);
-    press.accept();
-    widget.mousePressEvent(&press);
-    QVERIFY(!press.isAccepted());
+    const auto refused = [&widget](QEvent::Type type, void (Widget::*handler)(QMouseEvent*)) {
+        QMouseEvent event(type, {5, 5}, {5, 5}, Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        event.accept();
+        (widget.*handler)(&event);
+        return !event.isAccepted();
+    };
+    QVERIFY(refused(QEvent::MouseButtonPress, &Widget::mousePressEvent));
+    QVERIFY(refused(QEvent::MouseMove, &Widget::mouseMoveEvent));
+    QVERIFY(refused(QEvent::MouseButtonRelease, &Widget::mouseReleaseEvent));
 }
 
 void tst_CRkBaseWidget::everyShowSetsMapped()
