@@ -16,10 +16,13 @@ constexpr qreal captionWidth = 190;
 constexpr qreal captionHeight = 32;
 constexpr qreal paintedNameWidth = 180;
 constexpr qreal displayedNameWidth = 140;
+/// Characters; far more than fit into the caption.
+constexpr int measuredName = 1000;
 
 QString elided(const QString& name, const QFont& font, qreal width)
 {
-    return QFontMetricsF(font).elidedText(name, Qt::ElideRight, width);
+    // The name of a damaged file may be megabytes, which would take seconds at every painting.
+    return QFontMetricsF(font).elidedText(name.left(measuredName), Qt::ElideRight, width);
 }
 
 QString withoutTrailingBlanks(QString text)

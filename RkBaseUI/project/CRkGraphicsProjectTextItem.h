@@ -22,6 +22,7 @@ class RKBASEUI_EXPORT CRkGraphicsProjectTextItem : public QGraphicsTextItem
 public:
     explicit CRkGraphicsProjectTextItem(QGraphicsItem* parent = nullptr);
 
+    /// The whole name. A new one is shown from the next buildDisplayAndToolTip() on.
     QString GetPrjName() const { return m_name; }
     void SetPrjName(const QString& name) { m_name = name; }
 
@@ -55,6 +56,7 @@ private:
     QString m_name;
     QString m_size;
     QString m_modified;
+    /// As they were when editing began.
     QString m_nameBeforeEditing;
     QString m_toolTipBeforeEditing;
 };

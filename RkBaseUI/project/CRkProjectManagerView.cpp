@@ -71,6 +71,7 @@ CRkProjectManagerView::CRkProjectManagerView(QWidget* parent)
 
 CRkProjectManagerView::~CRkProjectManagerView()
 {
+    // A scene that goes with a selected tile still tells of the change.
     disconnect(m_scene.get(), nullptr, this, nullptr);
 }
 
@@ -210,10 +211,12 @@ CRkGraphicsProjectRectItem* CRkProjectManagerView::AddProjectItem(const QString&
 
 void CRkProjectManagerView::LoadBlockGravityListForProject(CRkGraphicsProjectRectItem* tile)
 {
-    const BlockPlaces blocks = ProjectListing::loadBlocks(
+    const std::optional<BlockPlaces> blocks = ProjectListing::loadBlocks(
         tile->GetProjectFilePath(), tile->GetProjectID(), tile->GetSoftwareVersion());
-    tile->SetGravityList(tile->GetGravityList() + blocks.centres);
-    tile->SetProvinceCityList(blocks.places);
+    if (!blocks)
+        return;
+    tile->SetGravityList(tile->GetGravityList() + blocks->centres);
+    tile->SetProvinceCityList(blocks->places);
 }
 
 bool CRkProjectManagerView::isConditionPassed(const CRkGraphicsProjectRectItem* tile,

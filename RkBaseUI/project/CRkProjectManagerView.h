@@ -40,10 +40,15 @@ public:
     void ResetItemPos();
 
 signals:
+    /// A project bears another name, and so do its file and folder.
     void projectRenamed();
+    /// A project was copied; the copy has its tile.
     void projectCopied();
+    /// For the page's connections; the view itself does not emit it.
     void projectDeleted();
+    /// The user opens a project, given by its file.
     void projectOpened(const QString& projectFilePath);
+    /// For the page's connections; the view itself does not emit it.
     void blockOpened(const QString& blockId);
 
 public slots:

@@ -41,9 +41,9 @@ QDateTime parseModified(const QString& text)
             return text.midRef(start, length).toInt();
         };
         const QDate day(number(0, 4), number(5, 2), number(8, 2));
-        const QTime hour(number(11, 2), number(14, 2), number(17, 2));
-        QDateTime time(day, hour);
-        if (hour.isValid() && time.isValid())
+        const QTime timeOfDay(number(11, 2), number(14, 2), number(17, 2));
+        QDateTime time(day, timeOfDay);
+        if (timeOfDay.isValid() && time.isValid())
             return time;
     }
     return QDateTime::fromString(text, DateTimeSFormat);

@@ -62,8 +62,23 @@ private:
     QStringList m_places;
 };
 
+/// Whether the file's tables are plain ones, which give no more than the file holds.
+bool hasPlainTables(CRkDataBase& database)
+{
+    return !database.exec(ProjectStoreSql::selectComputedTables()).next();
+}
+
+/// An identifier out of a file goes into a statement as it is, so one with a quote could make it
+/// another statement, without end perhaps.
+bool isPlainIdentifier(const QString& id)
+{
+    return !id.contains(QLatin1Char('\''));
+}
+
 QStringList placesOfOutlines(CRkDataBase& database, const QString& projectId)
 {
+    if (!isPlainIdentifier(projectId))
+        return {};
     PlaceList list;
     QSqlQuery outlines = database.exec(ProjectStoreSql::selectOutlines(projectId));
     while (outlines.next()) {
@@ -77,7 +92,7 @@ QStringList placesOfOutlines(CRkDataBase& database, const QString& projectId)
 /// Fills the record from the open database; false when it has no project of the user.
 bool readRow(CRkDataBase& database, const QString& userId, ProjectRecord& project)
 {
-    if (database.exec(ProjectStoreSql::selectComputedTables()).next())
+    if (!hasPlainTables(database))
         return false;
     QSqlQuery query = database.exec(ProjectStoreSql::selectProject(userId));
     if (!query.next())
@@ -95,9 +110,7 @@ bool readRow(CRkDataBase& database, const QString& userId, ProjectRecord& projec
     project.modified = query.value(index[1]).toString();
     project.id = query.value(index[2]).toString();
     project.softwareVersion = query.value(index[3]).toString();
-    const QVariant image = query.value(index[4]);
-    project.imageData =
-        image.type() == QVariant::ByteArray ? image.toByteArray() : image.toString().toLatin1();
+    project.imageData = query.value(index[4]).toByteArray();
     return true;
 }
 
@@ -166,12 +179,12 @@ std::optional<ProjectRecord> create(const QString& file, const QString& userId)
     return load(QFileInfo(file), userId, true);
 }
 
-BlockPlaces loadBlocks(const QString& file, const QString& projectId,
-                       const QString& softwareVersion)
+std::optional<BlockPlaces> loadBlocks(const QString& file, const QString& projectId,
+                                      const QString& softwareVersion)
 {
     CRkDataBase database(file);
-    if (!database.open())
-        return {};
+    if (!database.open() || !hasPlainTables(database) || !isPlainIdentifier(projectId))
+        return std::nullopt;
     PlaceList list;
     QList<PointLatLng> centres;
     QSqlQuery rows = database.exec(ProjectStoreSql::selectBlocks(projectId));
@@ -186,7 +199,7 @@ BlockPlaces loadBlocks(const QString& file, const QString& projectId,
         centres.append(centre);
     }
     database.close();
-    return {centres, list.places()};
+    return BlockPlaces{centres, list.places()};
 }
 
 } // namespace ProjectListing

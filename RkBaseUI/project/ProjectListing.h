@@ -49,7 +49,9 @@ std::optional<ProjectRecord> read(const QString& file, const QString& userId);
 std::optional<ProjectRecord> create(const QString& file, const QString& userId);
 
 /// Loads the blocks of a project, puts them into the block manager and gives where they lie.
-BlockPlaces loadBlocks(const QString& file, const QString& projectId,
-                       const QString& softwareVersion);
+/// Nothing when the file cannot be opened, or when the file or the identifier could make a
+/// statement run without end.
+std::optional<BlockPlaces> loadBlocks(const QString& file, const QString& projectId,
+                                      const QString& softwareVersion);
 
 } // namespace ProjectListing

@@ -25,8 +25,10 @@ std::atomic<QtMessageHandler> handlerBefore = nullptr;
 
 void handleMessage(QtMsgType type, const QMessageLogContext& context, const QString& message)
 {
-    if (!threadIsQuiet)
-        handlerBefore.load()(type, context, message);
+    // None yet for the moment between putting this handler in and knowing the one before.
+    const QtMessageHandler handler = handlerBefore;
+    if (handler && !threadIsQuiet)
+        handler(type, context, message);
 }
 
 /// Image decoders print a warning for every damaged picture. While one of these lives, what its

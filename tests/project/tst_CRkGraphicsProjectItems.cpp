@@ -113,6 +113,7 @@ private slots:
     void captionBoundingRect();
     void displayAndToolTip_data();
     void displayAndToolTip();
+    void onlyTheBeginOfANameIsMeasured();
     void captionAtRestIsCentredAndElided();
     void captionSelectedHasWhiteOutline();
     void captionFocusedHasWhiteOutline();
@@ -339,6 +340,17 @@ void tst_CRkGraphicsProjectItems::displayAndToolTip()
         QVERIFY(shown.endsWith(QChar(0x2026)));
         QVERIFY(name.startsWith(shown.chopped(1)));
     }
+}
+
+void tst_CRkGraphicsProjectItems::onlyTheBeginOfANameIsMeasured()
+{
+    // Characters without width never reach an end of the caption.
+    CRkGraphicsProjectTextItem caption;
+    caption.SetPrjName(QString(100'000, QChar(0x200B)));
+    caption.buildDisplayAndToolTip();
+    QCOMPARE(caption.toPlainText().size(), 1000);
+    QCOMPARE(caption.GetPrjName().size(), 100'000);
+    QVERIFY(caption.toolTip().size() > 100'000);
 }
 
 void tst_CRkGraphicsProjectItems::captionAtRestIsCentredAndElided()

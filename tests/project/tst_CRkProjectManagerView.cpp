@@ -118,6 +118,7 @@ private slots:
     void nullParentKeepsTheDefaultSize();
     void missingRoot();
     void whatIsListed();
+    void noUserSeesOnlyNobodysProjects();
     void listingChangesNoFile();
     void tileParts();
     void nameComesFromTheRow();
@@ -145,6 +146,7 @@ private slots:
 
     void clickSelectsOne();
     void controlClickSelectsOne();
+    void releaseOverAThumbnailSelects();
     void programSelectsOne();
     void doubleClickOnAThumbnailOpens();
     void doubleClickOnACaptionIsForTheCaption();
@@ -153,6 +155,7 @@ private slots:
     void newProject();
     void newProjectsAreNumbered();
     void newProjectInAView();
+    void newProjectBesideFilteredTiles();
     void userWithAQuote();
 
 private:
@@ -308,6 +311,16 @@ void tst_CRkProjectManagerView::whatIsListed()
     QCOMPARE(sortedNamesOf(view), QStringList({"Hill", "a.b", QStringLiteral("北山水库")}));
     QVERIFY(!QFileInfo::exists(root + "nowhere"));
     QCOMPARE(tileNamed(view, "a.b")->GetProjectFilePath(), root + "a.b/a.b.proj");
+}
+
+void tst_CRkProjectManagerView::noUserSeesOnlyNobodysProjects()
+{
+    m_home->setCurrentUserId(QString());
+    project("Hill");
+    const QString file = ProjectFixture{"Dale", QString("")}.write(m_home->projectRoot());
+    QVERIFY(!file.isEmpty());
+    const CRkProjectManagerView view(nullptr);
+    QCOMPARE(namesOf(view), QStringList("Dale"));
 }
 
 void tst_CRkProjectManagerView::listingChangesNoFile()
@@ -732,6 +745,24 @@ void tst_CRkProjectManagerView::controlClickSelectsOne()
     QCOMPARE(selectedNamesOf(*view), QStringList("p02"));
 }
 
+void tst_CRkProjectManagerView::releaseOverAThumbnailSelects()
+{
+    projects(3);
+    const auto view = shownView({640, 480});
+    QVERIFY(view);
+    view->verticalScrollBar()->setValue(0);
+    tileNamed(*view, "p00")->setSelected(true);
+    const auto placeOf = [&](const QString& name) {
+        return view->mapFromScene(tileNamed(*view, name)->pos() + onThumbnail);
+    };
+    // The scene itself would select only what was pressed, and only with the left button.
+    QTest::mouseClick(view->viewport(), Qt::RightButton, {}, placeOf("p01"));
+    QCOMPARE(selectedNamesOf(*view), QStringList("p01"));
+    QTest::mousePress(view->viewport(), Qt::LeftButton, {}, QPoint(10, 300));
+    QTest::mouseRelease(view->viewport(), Qt::LeftButton, {}, placeOf("p02"));
+    QCOMPARE(selectedNamesOf(*view), QStringList("p02"));
+}
+
 void tst_CRkProjectManagerView::programSelectsOne()
 {
     projects(3);
@@ -854,6 +885,21 @@ void tst_CRkProjectManagerView::newProjectInAView()
     QCOMPARE(tilesOf(*view).last()->pos(), QPointF(32, 3 * 220));
     QCOMPARE(view->sceneRect(), QRectF(0, 0, 640, 3 * 220 + 363));
     QCOMPARE(view->verticalScrollBar()->value(), view->verticalScrollBar()->maximum());
+}
+
+void tst_CRkProjectManagerView::newProjectBesideFilteredTiles()
+{
+    projects(9);
+    const auto view = shownView({640, 480});
+    QVERIFY(view);
+    view->slotFilterConditionChanged("", "", "", "p05");
+    view->slotNewProject();
+    QCOMPARE(namesOf(*view), QStringList({"p05", "New Project"}));
+    QCOMPARE(tilesOf(*view).last()->pos(), QPointF(242, 0));
+    view->slotFilterConditionChanged("", "", "", "");
+    QCOMPARE(tilesOf(*view).size(), 10);
+    QCOMPARE(namesOf(*view).last(), QString("New Project"));
+    QCOMPARE(tilesOf(*view).last()->pos(), QPointF(32, 3 * 220));
 }
 
 void tst_CRkProjectManagerView::userWithAQuote()

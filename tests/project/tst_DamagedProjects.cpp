@@ -21,7 +21,6 @@
 #include <QTemporaryFile>
 #include <QtTest>
 
-#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -86,6 +85,8 @@ private slots:
     void textForNumbers();
     void nullEverywhere();
     void blobsForTexts();
+    void endlessName();
+    void identifierThatIsAStatement();
     void largeImageData_data();
     void largeImageData();
     void hugeValueFromALittleFile();
@@ -331,6 +332,27 @@ void tst_DamagedProjects::blobsForTexts()
     QCOMPARE(list(), QSet<QString>({fileNamed("sound"), file}));
 }
 
+void tst_DamagedProjects::endlessName()
+{
+    const QString file = project("name");
+    QVERIFY(runSql(file,
+                   {"UPDATE " + ProjectTableName
+                    + " SET project_name=replace(hex(zeroblob(5000000)), '00', 'wW ')"}));
+    QCOMPARE(list(), QSet<QString>({fileNamed("sound"), file}));
+    QVERIFY(!CRkProjectManagerView(nullptr).grab().isNull());
+}
+
+void tst_DamagedProjects::identifierThatIsAStatement()
+{
+    // Taken as it is, it would give outlines without end.
+    ProjectFixture fixture{"statement"};
+    fixture.id = "'' UNION ALL SELECT i FROM (WITH RECURSIVE n(i) AS"
+                 " (VALUES(1) UNION ALL SELECT i+1 FROM n) SELECT i FROM n) --";
+    const QString file = fixture.write(root());
+    QVERIFY(readSql(file, "select id from " + ProjectTableName).value(0).startsWith("' UNION"));
+    QCOMPARE(list(), QSet<QString>({fileNamed("sound"), file}));
+}
+
 void tst_DamagedProjects::largeImageData_data()
 {
     QTest::addColumn<QByteArray>("imageData");
@@ -457,13 +479,13 @@ void tst_DamagedProjects::writeAheadLogMark()
     content[18] = 2;
     content[19] = 2;
     QVERIFY(writeFile(fileNamed("log"), content));
-    QVERIFY(list().contains(fileNamed("sound")));
+    QCOMPARE(list(), QSet<QString>({fileNamed("sound"), fileNamed("log")}));
     QCOMPARE(readFile(fileNamed("log")), content);
 }
 
 void tst_DamagedProjects::journalOfAnotherProgram()
 {
-    // A journal that is not one of this file is left alone with it.
+    // SQLite clears away what is no journal of the file, and takes nothing from it.
     QVERIFY(writeFile(fileNamed("sound") + "-journal", QByteArray(4096, 'j')));
     const QByteArray content = readFile(fileNamed("sound"));
     const CRkProjectManagerView view(nullptr);

@@ -33,6 +33,7 @@ private slots:
     void createInAMissingFolder();
     void blocks();
     void blocksOfNoProject();
+    void blocksOfNoFile();
 
 private:
     std::unique_ptr<TestHome> m_home;
@@ -130,14 +131,16 @@ void tst_ProjectListing::blocks()
     QVERIFY(runSql(file,
                    {"INSERT INTO " + SurveyAreaTableName
                     + " (project_id, survey_area_guid) VALUES ('id-of-Hill', NULL)"}));
-    const BlockPlaces blocks = ProjectListing::loadBlocks(file, "id-of-Hill", VANTRELL_VERSION);
-    QCOMPARE(blocks.centres.size(), 2);
-    QVERIFY(qAbs(blocks.centres[0].Lat() - 30.66) < 1e-6);
-    QVERIFY(qAbs(blocks.centres[1].Lng() - 118.10) < 1e-6);
+    const std::optional<BlockPlaces> blocks =
+        ProjectListing::loadBlocks(file, "id-of-Hill", VANTRELL_VERSION);
+    QVERIFY(blocks.has_value());
+    QCOMPARE(blocks->centres.size(), 2);
+    QVERIFY(qAbs(blocks->centres[0].Lat() - 30.66) < 1e-6);
+    QVERIFY(qAbs(blocks->centres[1].Lng() - 118.10) < 1e-6);
     const RkCityCategory& catalogue = RkCityCategory::instance();
-    QCOMPARE(blocks.places.size(), 4);
-    QCOMPARE(blocks.places[0], catalogue.GetCityName(PointLatLng(30.66, 104.07)));
-    QCOMPARE(blocks.places[2], catalogue.GetCityName(PointLatLng(24.48, 118.10)));
+    QCOMPARE(blocks->places.size(), 4);
+    QCOMPARE(blocks->places[0], catalogue.GetCityName(PointLatLng(30.66, 104.07)));
+    QCOMPARE(blocks->places[2], catalogue.GetCityName(PointLatLng(24.48, 118.10)));
     QVERIFY(CRkBlockManager::instance().GetBlock("a0"));
     QVERIFY(CRkBlockManager::instance().GetBlock("a1"));
     QVERIFY(!CRkBlockManager::instance().GetBlock(""));
@@ -146,8 +149,23 @@ void tst_ProjectListing::blocks()
 void tst_ProjectListing::blocksOfNoProject()
 {
     const QString file = ProjectFixture{"Hill"}.write(m_home->projectRoot());
-    QVERIFY(ProjectListing::loadBlocks(file, "another", VANTRELL_VERSION).centres.isEmpty());
-    QVERIFY(ProjectListing::loadBlocks(m_home->path(), "x", VANTRELL_VERSION).centres.isEmpty());
+    const std::optional<BlockPlaces> none =
+        ProjectListing::loadBlocks(file, "another", VANTRELL_VERSION);
+    QVERIFY(none.has_value());
+    QVERIFY(none->centres.isEmpty() && none->places.isEmpty());
+}
+
+void tst_ProjectListing::blocksOfNoFile()
+{
+    QVERIFY(!ProjectListing::loadBlocks(m_home->path(), "x", VANTRELL_VERSION).has_value());
+    const QString file = ProjectFixture{"Hill"}.write(m_home->projectRoot());
+    QVERIFY(!ProjectListing::loadBlocks(file, "x' or '1'='1", VANTRELL_VERSION).has_value());
+    QVERIFY(runSql(file,
+                   {"DROP TABLE " + SurveyAreaTableName,
+                    "CREATE VIEW " + SurveyAreaTableName
+                        + " AS SELECT 'x' project_id, 'a' survey_area_guid, 'a' survey_area_name,"
+                          " '' camera_type"}));
+    QVERIFY(!ProjectListing::loadBlocks(file, "x", VANTRELL_VERSION).has_value());
 }
 
 QTEST_GUILESS_MAIN(tst_ProjectListing)

@@ -56,8 +56,8 @@ QImage literal(const QByteArray& file)
 
 QByteArray withDimensions(QByteArray png, quint32 width, quint32 height)
 {
-    const int header =
-        12; // The type of the first chunk follows the signature and the chunk's length.
+    // The type of the first chunk follows the signature and the chunk's length.
+    const int header = 12;
     qToBigEndian(width, png.data() + header + 4);
     qToBigEndian(height, png.data() + header + 8);
     quint32 crc = 0xFFFFFFFFU;
