@@ -50,8 +50,8 @@ private:
     double m_top = 0.0;
     double m_bandsPerUnit = 0.0;
     int m_bandCount = 0;
-    std::vector<int>
-        m_bandStart; ///< where the edges of a band start in m_edges, and one more for the end
+    /// Where the edges of each band start in m_edges, and one more for the end.
+    std::vector<int> m_bandStart;
     std::vector<Edge> m_edges;
 };
 

@@ -3,18 +3,25 @@
 
 #include "city/BoundaryText.h"
 
+#include <QChar>
 #include <QString>
 
 #include <algorithm>
 
 namespace {
 
-constexpr ushort pointSeparator = ';';
-constexpr ushort fieldSeparator = ',';
+constexpr QLatin1Char pointSeparator(';');
+constexpr QLatin1Char fieldSeparator(',');
 
-bool isSeparator(ushort character)
+bool isSeparator(QChar character)
 {
     return character == pointSeparator || character == fieldSeparator;
+}
+
+/// Not `QChar::isDigit`, which takes the digits of all scripts.
+bool isDigit(QChar character)
+{
+    return character >= QLatin1Char('0') && character <= QLatin1Char('9');
 }
 
 /// A cursor over the text that reads it field by field.
@@ -22,8 +29,8 @@ class FieldReader
 {
 public:
     explicit FieldReader(QStringView text)
-        : m_position(reinterpret_cast<const ushort*>(text.utf16()))
-        , m_end(m_position + text.size())
+        : m_position(text.begin())
+        , m_end(text.end())
     {
     }
 
@@ -39,13 +46,13 @@ public:
     /// Reads the field as `QString::toDouble` does and goes to the separator after it.
     bool readNumber(double& number)
     {
-        const ushort* const start = m_position;
+        const QChar* const start = m_position;
         if (readPlainDecimal(number))
             return true;
         m_position = start;
         skipField();
         bool ok = false;
-        number = QString::fromUtf16(start, static_cast<int>(m_position - start)).toDouble(&ok);
+        number = QString(start, static_cast<int>(m_position - start)).toDouble(&ok);
         return ok;
     }
 
@@ -53,9 +60,9 @@ private:
     /// Adds the digits at the cursor to `mantissa` and gives their count.
     int readDigits(quint64& mantissa)
     {
-        const ushort* const start = m_position;
-        for (; m_position != m_end && *m_position >= '0' && *m_position <= '9'; ++m_position)
-            mantissa = mantissa * 10 + (*m_position - '0');
+        const QChar* const start = m_position;
+        for (; m_position != m_end && isDigit(*m_position); ++m_position)
+            mantissa = mantissa * 10 + (m_position->unicode() - '0');
         return static_cast<int>(std::min<std::ptrdiff_t>(m_position - start, maximumDigits + 1));
     }
 
@@ -66,13 +73,13 @@ private:
     {
         static constexpr double powersOfTen[maximumDigits + 1] = {
             1e0, 1e1, 1e2, 1e3, 1e4, 1e5, 1e6, 1e7, 1e8, 1e9, 1e10, 1e11, 1e12, 1e13, 1e14, 1e15};
-        const bool negative = !atEnd() && *m_position == '-';
+        const bool negative = !atEnd() && *m_position == QLatin1Char('-');
         if (negative)
             ++m_position;
         quint64 mantissa = 0;
         const int whole = readDigits(mantissa);
         int decimals = 0;
-        if (!atEnd() && *m_position == '.') {
+        if (!atEnd() && *m_position == QLatin1Char('.')) {
             ++m_position;
             decimals = readDigits(mantissa);
         }
@@ -86,8 +93,8 @@ private:
     /// Every integer of so many digits is a double.
     static constexpr int maximumDigits = 15;
 
-    const ushort* m_position;
-    const ushort* m_end;
+    const QChar* m_position;
+    const QChar* m_end;
 };
 
 /// Reads one point and the separator after it. False when the point is to be left out.

@@ -186,6 +186,9 @@ RkCityCategory::~RkCityCategory() = default;
 
 void RkCityCategory::loadFromFile()
 {
+    // Once only: the accessors have given out references, and the index knows these boundaries.
+    if (m_catalogue->database.isValid())
+        return;
     if (!m_catalogue->open(QCoreApplication::applicationDirPath()
                            + QStringLiteral("/ChinaAdminiDstrict.db"))) {
         return;

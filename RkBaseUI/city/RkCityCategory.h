@@ -23,8 +23,8 @@
 ///
 ///     const RkCityCategory& catalogue = RkCityCategory::instance();
 ///     const QString city = catalogue.GetCityName(PointLatLng(30.66, 104.06));
-///     const QStringList all =
-///     catalogue.provinceToCities().value(catalogue.provinceNames().first());
+///     const QString province = catalogue.letterToFirstProvince().value("S");
+///     const QStringList cities = catalogue.provinceToCities().value(province);
 class RKBASEUI_EXPORT RkCityCategory : public QObject
 {
     Q_OBJECT
@@ -35,7 +35,11 @@ public:
     ~RkCityCategory() override;
     Q_DISABLE_COPY(RkCityCategory)
 
-    /// The centre of a province or city, (0, 0) for an unknown name.
+    /// Reads the file; called by the constructor. The catalogue is never read a second time, so a
+    /// further call does nothing.
+    void loadFromFile();
+
+    /// The centre of a province or city in degrees, (0, 0) for an unknown name.
     PointLatLng getLatLng(const QString& name) const;
 
     /// The search or zoom radius: 800.0 for a province, 300.0 for a city, 100000.0 for an unknown
@@ -74,7 +78,6 @@ public:
 
 private:
     RkCityCategory();
-    void loadFromFile();
 
     struct Catalogue;
     std::unique_ptr<Catalogue> m_catalogue;

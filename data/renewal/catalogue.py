@@ -19,6 +19,7 @@ SPECK = 20_000
 
 # Its outline comes from another source than those of its neighbour, which covers Kinmen too.
 TAIWAN = '710100'
+TAIWAN_PROVINCE = TAIWAN[:2]
 
 HEADER = '''\
 # Provinces and cities with their boundaries, made by data/renew; data/README.md names origin,
@@ -39,7 +40,7 @@ def from_gcj02(ring):
 
 
 def gather(source, provinces):
-    """[((package code), rings)] in grid units and WGS84, and {package code: city code}."""
+    """[(package code, rings)] in grid units and WGS84, and {package code: city code}."""
     outlines = []
     city_of = {}
     country = package.provinces(source)
@@ -71,7 +72,7 @@ def gather(source, provinces):
         unclaimed = units.keys() - claimed - split_codes
         if unclaimed:
             raise CatalogueError('no city takes %s' % ', '.join(sorted(unclaimed)))
-        if province.code != '71':
+        if province.code != TAIWAN_PROVINCE:
             outlines += [(code, [from_gcj02(ring) for ring in rings])
                          for code, (_, rings) in sorted(units.items())]
     return outlines, city_of

@@ -138,6 +138,7 @@ private slots:
     void readsAnyFieldAsToDouble_data();
     void readsAnyFieldAsToDouble();
     void readsFieldWithZeroCharacter();
+    void readsFieldWithByteOrderMark();
     void readsRandomTextsLiterally();
     void readsRandomNumbersExactly();
     void readsHugeText();
@@ -197,6 +198,20 @@ void tst_BoundaryText::readsFieldWithZeroCharacter()
     for (const char* field : {"1|5", "1|", "|1", "|"}) {
         const QString text = QString("1,2;" + QString(field) + ",3;4,5").replace('|', QChar(0));
         QVERIFY(sameBits(parseBoundary(text), literalBoundary(text)));
+    }
+}
+
+/// A byte order mark is a character like any other. Obeyed, the first kind would vanish from its
+/// number, and the second turn the foreign letter behind it into "1".
+void tst_BoundaryText::readsFieldWithByteOrderMark()
+{
+    for (const ushort mark : {0xfeff, 0xfffe}) {
+        for (const char* field : {"|1.5", "1.5|", "|", "|\u3100"}) {
+            const QString text =
+                QString("1,2;" + QString(field) + ",3;4,5").replace('|', QChar(mark));
+            QCOMPARE(literalBoundary(text), polygonOf({{2, 1}, {5, 4}}));
+            QVERIFY2(sameBits(parseBoundary(text), literalBoundary(text)), qPrintable(text));
+        }
     }
 }
 

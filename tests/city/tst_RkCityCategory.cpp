@@ -12,6 +12,7 @@
 #include <QJsonObject>
 #include <QProcess>
 #include <QRandomGenerator>
+#include <QSqlDatabase>
 #include <QTemporaryDir>
 #include <QTranslator>
 #include <QtTest>
@@ -75,7 +76,9 @@ private:
 const char* const createTable =
     "create table city (id, name, letter, parent_id, level, lat, lng, polyline)";
 
-/// Fujian, Guangdong and Gansu have cities; Guangdong comes before Gansu in the file.
+const QString southSquare = "'10,-4;14,-4;bad;14,x;7;14,0;10,0'";
+
+/// Guangdong and Gansu share a letter, and Guangdong comes first in the file. Gansu has no city.
 const QStringList smallCatalogue = {
     createTable,
     "insert into city values (1, 'Country', 'Z', 0, 0, 35, 105, '')",
@@ -84,8 +87,7 @@ const QStringList smallCatalogue = {
     "insert into city values (30, 'Gansu', 'G', 1, 1, 36.1, 103.8, '')",
     "insert into city values (21, 'Square', 'S', 20, 2, 2, 12, '10,0;14,0;14,4;10,4')",
     "insert into city values (11, 'Overlap', 'O', 10, 2, 2, 14, '12,0;16,0;16,4;12,4;')",
-    "insert into city values (22, 'south_square', 'S', 20, 2, -2, 12, "
-    "'10,-4;14,-4;bad;14,x;7;14,0;10,0')",
+    "insert into city values (22, 'south_square', 'S', 20, 2, -2, 12, " + southSquare + ")",
     "insert into city values (12, 'Outlineless', 'O', 10, 3, 1, 2, '50,50;51,50;51,51')",
 };
 
@@ -160,6 +162,7 @@ private slots:
     void shippedPointsAreNamedAsByTheLiteralScan();
     void nowhereIsTranslatedAtEachCall();
     void shippedSearchFindsWhatTheFileHolds();
+    void neverLoadsASecondTime();
 };
 
 void tst_RkCityCategory::readsEveryMember()
@@ -208,33 +211,19 @@ void tst_RkCityCategory::namesTheCityOfAPoint_data()
     QTest::addColumn<QString>("latitude");
     QTest::addColumn<QString>("longitude");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("inside one") << "2"
-                                << "11"
-                                << "Square";
-    QTest::newRow("inside two, loaded first") << "2"
-                                              << "13"
-                                              << "Square";
-    QTest::newRow("inside the second alone") << "2"
-                                             << "15"
-                                             << "Overlap";
-    QTest::newRow("outside every boundary") << "2"
-                                            << "17"
-                                            << "N/A";
-    QTest::newRow("latitude and longitude not exchanged") << "11"
-                                                          << "2"
-                                                          << "N/A";
-    QTest::newRow("inside an outline of another level") << "50.5"
-                                                        << "50.6"
-                                                        << "N/A";
-    QTest::newRow("bad points left out of the boundary") << "-2"
-                                                         << "12"
-                                                         << "south_square";
-    QTest::newRow("not a number") << "nan"
-                                  << "12"
-                                  << "N/A";
-    QTest::newRow("infinite") << "2"
-                              << "inf"
-                              << "N/A";
+    const auto row = [](const char* name, const char* latitude, const char* longitude,
+                        const char* expected) {
+        QTest::newRow(name) << QString(latitude) << QString(longitude) << QString(expected);
+    };
+    row("inside one", "2", "11", "Square");
+    row("inside two, loaded first", "2", "13", "Square");
+    row("inside the second alone", "2", "15", "Overlap");
+    row("outside every boundary", "2", "17", "N/A");
+    row("latitude and longitude not exchanged", "11", "2", "N/A");
+    row("inside an outline of another level", "50.5", "50.6", "N/A");
+    row("bad points left out of the boundary", "-2", "12", "south_square");
+    row("not a number", "nan", "12", "N/A");
+    row("infinite", "2", "inf", "N/A");
 }
 
 void tst_RkCityCategory::namesTheCityOfAPoint()
@@ -397,14 +386,14 @@ void tst_RkCityCategory::survivesDamagedCopies()
 void tst_RkCityCategory::survivesOddValues()
 {
     const ProbedFolder folder;
-    QVERIFY(runSql(folder.file(),
-                   {createTable,
-                    "insert into city values ('x', 'Texts', 7, '1', 'two', 'north', '1e2', 5)",
-                    "insert into city values (null, null, null, 1, 2, null, null, null)",
-                    "insert into city values (3, x'4142', 'B', 1, 2, x'33', 4, "
-                    "x'302c303b342c303b342c343b302c34')",
-                    "insert into city values (4, 'Infinite', 'I', 9, 2, 9e999, -9e999, "
-                    "'inf,1;nan,2;1e999,3')"}));
+    const QString bytesOfSquare = "x'302c303b342c303b342c343b302c34'";
+    const QString notFinite = "'inf,1;nan,2;1e999,3'";
+    QVERIFY(runSql(
+        folder.file(),
+        {createTable, "insert into city values ('x', 'Texts', 7, '1', 'two', 'north', '1e2', 5)",
+         "insert into city values (null, null, null, 1, 2, null, null, null)",
+         "insert into city values (3, x'4142', 'B', 1, 2, x'33', 4, " + bytesOfSquare + ")",
+         "insert into city values (4, 'Infinite', 'I', 9, 2, 9e999, -9e999, " + notFinite + ")"}));
     const QJsonObject report =
         folder.probe({"point", "1", "2", "name", "Infinite", "name", "Texts"});
     QCOMPARE(report.value("provinceNames").toArray(), list({"", "AB"}));
@@ -549,6 +538,19 @@ void tst_RkCityCategory::shippedSearchFindsWhatTheFileHolds()
     const QString city = catalogue.cityBoundaries().constFirst().second;
     QVERIFY(catalogue.searchByKeyword(city.left(4)).contains(city));
     QCOMPARE(catalogue.searchByKeyword("'"), QStringList());
+}
+
+void tst_RkCityCategory::neverLoadsASecondTime()
+{
+    RkCityCategory& catalogue = RkCityCategory::instance();
+    const QStringList provinces = catalogue.provinceNames();
+    const QStringList connections = QSqlDatabase::connectionNames();
+    const int boundaries = catalogue.cityBoundaries().size();
+    QVERIFY(!provinces.isEmpty() && !connections.isEmpty() && boundaries > 0);
+    catalogue.loadFromFile();
+    QCOMPARE(catalogue.provinceNames(), provinces);
+    QCOMPARE(QSqlDatabase::connectionNames(), connections);
+    QCOMPARE(catalogue.cityBoundaries().size(), boundaries);
 }
 
 QTEST_GUILESS_MAIN(tst_RkCityCategory)

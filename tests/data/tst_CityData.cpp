@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
 #include <QCoreApplication>
+#include <QMap>
 #include <QPolygonF>
 #include <QSet>
 #include <QSqlDatabase>
@@ -9,6 +10,7 @@
 #include <QSqlQuery>
 #include <QtTest>
 
+#include <algorithm>
 #include <random>
 #include <vector>
 
@@ -22,11 +24,13 @@ private slots:
     void cleanupTestCase();
 
     void counts();
+    void citiesOfEachProvince();
     void provincesHaveNoBoundary();
     void everyCityIsListedUnderItsProvince();
     void everyCityIsListedUnderItsLetter();
     void lettersFollowTheChineseName_data();
     void lettersFollowTheChineseName();
+    void lettersAreInitialsElsewhere();
     void namesAreUnique();
     void boundariesAreWellFormed();
     void everyCentreLiesInItsOwnBoundaryFirst();
@@ -37,6 +41,8 @@ private slots:
     void placesAbroad();
     void changesOfBoundaries_data();
     void changesOfBoundaries();
+    void changesOfNames_data();
+    void changesOfNames();
     void noPointLiesInTwoCities();
     void frequentCities_data();
     void frequentCities();
@@ -56,6 +62,7 @@ private:
     std::vector<const Place*> placesAt(const QPointF& point) const;
     QString cityAt(double lat, double lng) const;
     const Place* byName(const QString& name) const;
+    static QString latinName(const Place& place);
 
     std::vector<Place> m_places;
     std::vector<const Place*> m_provinces;
@@ -78,9 +85,8 @@ QPolygonF parsePolyline(const QString& text)
         bool latOk = false;
         const double lng = parts.value(0).toDouble(&lngOk);
         const double lat = parts.value(1).toDouble(&latOk);
-        if (parts.size() != 2 || !lngOk || !latOk) {
+        if (parts.size() != 2 || !lngOk || !latOk)
             return QPolygonF();
-        }
         polygon << QPointF(lat, lng);
     }
     return polygon;
@@ -91,12 +97,10 @@ QStringList column(const QString& sql)
 {
     QStringList values;
     QSqlQuery query(QSqlDatabase::database(connectionName));
-    if (!query.exec(sql)) {
+    if (!query.exec(sql))
         qWarning("%s", qPrintable(query.lastError().text()));
-    }
-    while (query.next()) {
+    while (query.next())
         values << query.value(0).toString();
-    }
     return values;
 }
 
@@ -131,12 +135,10 @@ void tst_CityData::initTestCase()
         place.boundary = parsePolyline(query.value(7).toString());
         m_places.push_back(place);
     }
-    for (const Place& place : m_places) {
+    for (const Place& place : m_places)
         (place.parentId == 1 ? m_provinces : m_cities).push_back(&place);
-    }
-    for (const Place* city : m_cities) {
+    for (const Place* city : m_cities)
         m_boxes.push_back(city->boundary.boundingRect());
-    }
 }
 
 void tst_CityData::cleanupTestCase()
@@ -165,11 +167,16 @@ QString tst_CityData::cityAt(double lat, double lng) const
 const tst_CityData::Place* tst_CityData::byName(const QString& name) const
 {
     for (const Place& place : m_places) {
-        if (place.name == name) {
+        if (place.name == name)
             return &place;
-        }
     }
     return nullptr;
+}
+
+/// The Latin half holds blanks of its own, the Chinese half none.
+QString tst_CityData::latinName(const Place& place)
+{
+    return place.name.left(place.name.lastIndexOf(QLatin1Char(' ')));
 }
 
 void tst_CityData::counts()
@@ -182,6 +189,32 @@ void tst_CityData::counts()
     QCOMPARE(column(QStringLiteral("select name from sqlite_master where type = 'index' "
                                    "and tbl_name = 'city' order by name")),
              QStringList({QStringLiteral("city_level"), QStringLiteral("city_name")}));
+}
+
+/// The units of prefecture level at the end of 2023, without Sansha, and the ones directly below
+/// the province.
+void tst_CityData::citiesOfEachProvince()
+{
+    const QMap<QString, int> expected = {
+        {"Beijing", 1},   {"Tianjin", 1},    {"Hebei", 11},          {"Shanxi", 11},
+        {"Liaoning", 14}, {"Jilin", 9},      {"Heilongjiang", 13},   {"Shanghai", 1},
+        {"Jiangsu", 13},  {"Zhejiang", 11},  {"Anhui", 16},          {"Fujian", 9},
+        {"Jiangxi", 11},  {"Shandong", 16},  {"Henan", 17 + 1},      {"Hubei", 13 + 4},
+        {"Hunan", 14},    {"Guangdong", 21}, {"Guangxi", 14},        {"Hainan", 3 + 15},
+        {"Chongqing", 1}, {"Sichuan", 21},   {"Guizhou", 9},         {"Yunnan", 16},
+        {"Tibet", 7},     {"Shaanxi", 10},   {"Gansu", 14},          {"Qinghai", 8},
+        {"Ningxia", 5},   {"Taiwan", 1},     {"Inner Mongolia", 12}, {"Xinjiang", 14 + 4},
+        {"Hong Kong", 1}, {"Macao", 1},
+    };
+    QMap<QString, int> found;
+    for (const Place* province : m_provinces) {
+        const auto isItsCity = [province](const Place* city) {
+            return city->parentId == province->id;
+        };
+        found[latinName(*province)] =
+            int(std::count_if(m_cities.cbegin(), m_cities.cend(), isItsCity));
+    }
+    QCOMPARE(found, expected);
 }
 
 void tst_CityData::provincesHaveNoBoundary()
@@ -263,18 +296,32 @@ void tst_CityData::lettersFollowTheChineseName()
     QCOMPARE(place->letter, letter);
 }
 
+void tst_CityData::lettersAreInitialsElsewhere()
+{
+    // Their usual Latin names are no pinyin of the Chinese ones.
+    const QSet<QString> spelledOtherwise = {"Inner Mongolia", "Ordos",  "Ulanqab",  "Hinggan",
+                                            "Tibet",          "Xigaze", "Qamdo",    "Nyingchi",
+                                            "Ngari",          "Urumqi", "Ili",      "Hong Kong",
+                                            "Hong Kong SAR",  "Macao",  "Macao SAR"};
+    QSet<QString> otherLetters;
+    for (const Place& place : m_places) {
+        if (!place.name.startsWith(place.letter))
+            otherLetters.insert(latinName(place));
+    }
+    QCOMPARE(otherLetters, spelledOtherwise);
+}
+
 void tst_CityData::namesAreUnique()
 {
     QSet<QString> full;
     QSet<QString> latin;
     QSet<QString> chinese;
     for (const Place& place : m_places) {
-        // The Latin half holds blanks of its own, the Chinese half none.
         const int gap = place.name.lastIndexOf(QLatin1Char(' '));
         QVERIFY2(gap > 0, qPrintable(place.name));
         QVERIFY2(!place.name.contains(QLatin1Char('\'')), qPrintable(place.name));
         full.insert(place.name);
-        latin.insert(place.name.left(gap));
+        latin.insert(latinName(place));
         chinese.insert(place.name.mid(gap + 1));
     }
     QCOMPARE(full.size(), int(m_places.size()));
@@ -295,9 +342,8 @@ void tst_CityData::boundariesAreWellFormed()
 
 void tst_CityData::everyCentreLiesInItsOwnBoundaryFirst()
 {
-    for (const Place* city : m_cities) {
+    for (const Place* city : m_cities)
         QCOMPARE(cityAt(city->centre.x(), city->centre.y()), city->name);
-    }
 }
 
 void tst_CityData::provinceCentresLieInTheProvince()
@@ -419,6 +465,41 @@ void tst_CityData::changesOfBoundaries()
     knownPlaces();
 }
 
+void tst_CityData::changesOfNames_data()
+{
+    QTest::addColumn<int>("code");
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("past");
+    const auto row = [](const char* change, int code, const char* name, const char* past) {
+        QTest::newRow(change) << code << QString::fromUtf8(name) << QString::fromUtf8(past);
+    };
+    row("Xiangfan renamed", 420600, "Xiangyang 襄阳市", "襄樊");
+    row("Bijie a city", 520500, "Bijie 毕节市", "毕节地区");
+    row("Tongren a city", 520600, "Tongren 铜仁市", "铜仁地区");
+    row("Haidong a city", 630200, "Haidong 海东市", "海东地区");
+    row("Xigaze a city", 540200, "Xigaze 日喀则市", "日喀则地区");
+    row("Qamdo a city", 540300, "Qamdo 昌都市", "昌都地区");
+    row("Nyingchi a city", 540400, "Nyingchi 林芝市", "林芝地区");
+    row("Shannan a city", 540500, "Shannan 山南市", "山南地区");
+    row("Nagqu a city", 540600, "Nagqu 那曲市", "那曲地区");
+    row("Turpan a city", 650400, "Turpan 吐鲁番市", "吐鲁番地区");
+    row("Hami a city", 650500, "Hami 哈密市", "哈密地区");
+    row("Danzhou of prefecture level", 460400, "Danzhou 儋州市", "Danzhou City");
+    row("Chaohu dissolved into Hefei and others", 340100, "Hefei 合肥市", "Chaohu");
+    row("Laiwu merged into Jinan", 370100, "Jinan 济南市", "Laiwu");
+}
+
+void tst_CityData::changesOfNames()
+{
+    QFETCH(int, code);
+    QFETCH(QString, name);
+    QFETCH(QString, past);
+    QVERIFY(byName(name) != nullptr);
+    QCOMPARE(byName(name)->id, code);
+    for (const Place& place : m_places)
+        QVERIFY2(!place.name.contains(past), qPrintable(place.name));
+}
+
 void tst_CityData::noPointLiesInTwoCities()
 {
     std::mt19937 random(20231231);
@@ -459,9 +540,8 @@ void tst_CityData::frequentCities()
     // As a filter sees them: "Hangzhou" is no part of "Zhangzhou" or "Changzhou" as spelt.
     QStringList cities;
     for (const Place* city : m_cities) {
-        if (city->name.contains(latin)) {
+        if (city->name.contains(latin))
             cities << city->name;
-        }
     }
     QCOMPARE(cities.size(), 1);
     QVERIFY(cities.first().contains(chinese));
