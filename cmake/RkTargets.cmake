@@ -19,8 +19,8 @@ function(rk_public_headers target package)
     foreach(header IN LISTS ARGN)
         get_filename_component(name "${header}" NAME)
         get_filename_component(path "${header}" ABSOLUTE)
-        file(CONFIGURE OUTPUT "${include_root}/${package}/${name}"
-            CONTENT "#include \"${path}\"\n" @ONLY)
+        configure_file("${PROJECT_SOURCE_DIR}/cmake/PublicHeader.h.in"
+            "${include_root}/${package}/${name}" @ONLY)
         install(FILES "${path}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${package}" COMPONENT ${RK_INSTALL_COMPONENT})
         set_property(GLOBAL APPEND PROPERTY RK_PUBLIC_HEADERS "${package}/${name}")
     endforeach()
