@@ -8,9 +8,9 @@
 #include <QGraphicsTextItem>
 #include <QString>
 
-/// The caption of a project tile, through which the user renames the project. It shows the name
+/// The caption of a project tile, in which the user edits the project's name. It paints the name
 /// elided; while it has the focus, the whole name stands in it for editing. Size and time are in
-/// the tooltip.
+/// the tooltip. Renaming the project is up to whoever is connected to editFinished().
 ///
 ///     auto* caption = new CRkGraphicsProjectTextItem(tile);
 ///     caption->SetPrjName(name);
@@ -36,7 +36,8 @@ public:
     /// Sets the item's text and, with it, the name.
     void SetPlainText(const QString& text);
 
-    /// Shows the name elided to 140 pixels, and name, size and modification time in the tooltip.
+    /// Makes the name elided to 140 pixels the item's text, and puts name, size and modification time
+    /// into the tooltip. What is painted while nobody edits is the name elided to 180 pixels.
     void buildDisplayAndToolTip();
 
     /// At least 190 x 32.
@@ -44,7 +45,7 @@ public:
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
 signals:
-    /// Editing ended with another name, without blanks at its end.
+    /// Editing ended with another name, without blanks at its end. It may be empty or no file name.
     void editFinished(const QString& newName);
 
 protected:

@@ -77,8 +77,10 @@ CRkProjectManagerView::~CRkProjectManagerView()
 
 void CRkProjectManagerView::ResetItemPos()
 {
-    if (m_visibleTiles.isEmpty())
+    if (m_visibleTiles.isEmpty()) {
+        setSceneRect(0, 0, m_scene->sceneRect().width(), 0); // Nothing to scroll to.
         return;
+    }
     const int last = m_visibleTiles.size() - 1;
     for (int i = 0; i < last; ++i)
         m_visibleTiles[i]->setPos(TileGrid::position(i, rect().width()));

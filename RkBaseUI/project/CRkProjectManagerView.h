@@ -18,8 +18,9 @@ class QGraphicsScene;
 struct ProjectRecord;
 
 /// The projects of the current user as tiles in rows. It is filled once, from the project files
-/// below the project root, when it is made; one tile at most is selected, and a filter hides the
-/// tiles that do not meet its conditions.
+/// below the project root, when it is made, and to list them anew a new view is made. One tile at
+/// most is selected, and a filter hides the tiles that do not meet its conditions. The tiles are the
+/// CRkGraphicsProjectRectItem among the items of the scene.
 ///
 ///     auto* view = new CRkProjectManagerView(page);
 ///     connect(view, &CRkProjectManagerView::projectOpened, this, &Page::openProject);
@@ -29,7 +30,8 @@ class RKBASEUI_EXPORT CRkProjectManagerView : public QGraphicsView
     Q_OBJECT
 
 public:
-    /// Takes the size of the parent and lists the projects.
+    /// Takes the size of the parent and lists the projects; returns when every tile has its picture.
+    /// The current user is the one of the settings (see `UserInfoUserID`).
     explicit CRkProjectManagerView(QWidget* parent);
     ~CRkProjectManagerView() override;
 
@@ -46,22 +48,23 @@ signals:
     void projectCopied();
     /// For the page's connections; the view itself does not emit it.
     void projectDeleted();
-    /// The user opens a project, given by its file.
+    /// The user opens a project, given by its file, with a double click on its thumbnail.
     void projectOpened(const QString& projectFilePath);
     /// For the page's connections; the view itself does not emit it.
     void blockOpened(const QString& blockId);
 
 public slots:
-    /// Makes a project with a name that is free, and its tile.
+    /// Makes a project with a name that is free, and its tile. Nothing happens when its file cannot be
+    /// written.
     void slotNewProject();
     void slotCopyProject();
     void slotDeleteProject();
 
     /// Shows the projects that meet all conditions, given as the filter bar shows them.
-    /// @param cityCondition a part of a place's name, or a placeholder ("City", "All") or empty for
-    /// any
-    /// @param dateCondition a day in `DateFormat`, two days with "to" between, or "Date" or empty
-    /// for any
+    /// @param cityCondition a part of a place's name in its letter case, or a placeholder ("City",
+    /// "All") or empty for any
+    /// @param dateCondition the day of the last modification in `DateFormat`, two days with "to"
+    /// between, both included, or "Date" or empty for any; a day that cannot be read lets all pass
     /// @param sourceCondition not used
     /// @param keywordCondition a part of the project's name in any letter case; empty for any
     void slotFilterConditionChanged(const QString& cityCondition, const QString& dateCondition,

@@ -26,6 +26,9 @@ class CRkBaseDialog;
 ///     dialog.AddLayout(formLayout);
 ///     if (dialog.exec() == 1) ...
 ///
+/// OK has the focus at first; a dialog with a field to fill in gives it to that: `edit->setFocus()`.
+/// The white of the content area goes to the widgets in it as well.
+///
 /// Without a parent the dialog is a window that stays on top. With a parent it is embedded in the
 /// parent like any child widget; a derived dialog that wants a parent and a window sets window
 /// flags itself. The object name stays "CRkBaseDialog" in derived dialogs, because the frame's
@@ -35,12 +38,15 @@ class RKBASEUI_EXPORT CRkBaseDialog : public QDialog
     Q_OBJECT
 
 public:
+    /// The title is "Vantrell", translated.
     explicit CRkBaseDialog(QWidget* parent = nullptr);
     ~CRkBaseDialog() override;
 
-    /// Puts the layout into the content area, which takes ownership. Null is ignored.
+    /// Puts the layout into the content area, which has no margins and takes ownership. Null is
+    /// ignored. There is one place: a second layout would lie over the first.
     void AddLayout(QLayout* layout);
 
+    /// The buttons' pictures have room for some 70 pixels of text and do not grow with it.
     void SetBtnOKText(const QString& text);
     void SetBtnCancelText(const QString& text);
 
@@ -55,7 +61,8 @@ public:
 
     /// Runs the dialog modally. Returns 1 after OK, 0 after Cancel and -1 after the title bar's
     /// close button. Any other end, such as the Escape key, returns what the last of these buttons
-    /// left, in an earlier run as well, and 0 when none was ever pressed. Not the same as
+    /// left, in an earlier run as well, and 0 when none was ever pressed: so does a
+    /// direct call of `accept()`, before which a derived dialog sets the result itself. Not the same as
     /// `QDialog::result()`.
     int exec() override;
 

@@ -8,7 +8,8 @@
 #include <QWidget>
 
 /// Window without a frame that is dragged anywhere on its surface; the base of tool windows and
-/// popups.
+/// popups. It is a window with a parent too, unlike `CRkBaseDialog`, and has no meta-object of its
+/// own.
 ///
 ///     auto* window = new CRkBaseWidget(nullptr);
 ///     window->EnableMove(false);

@@ -13,6 +13,7 @@
 
 #include <QCheckBox>
 #include <QCoreApplication>
+#include <QDeadlineTimer>
 #include <QFormLayout>
 #include <QGraphicsScene>
 #include <QLabel>
@@ -21,6 +22,7 @@
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QTextCursor>
+#include <QToolButton>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -91,8 +93,8 @@ void editFirstCaption(QWidget& window)
 
 void filterByKeyword(QWidget& window)
 {
-    viewOf(window).slotFilterConditionChanged(QString(), QString(), QString(),
-                                              QStringLiteral("1-"));
+    const QString name = firstTile(window).GetProjectName();
+    viewOf(window).slotFilterConditionChanged(QString(), QString(), QString(), name.left(2));
 }
 
 /// The place with most projects.
@@ -112,14 +114,24 @@ Window hostWindow()
     return std::make_unique<HostWindow>();
 }
 
+void search(QWidget& window, const QString& keyword)
+{
+    static_cast<HostWindow&>(window).setKeyword(keyword);
+    // The button that clears the keyword comes up slowly.
+    const auto* clearButton = window.findChild<QLineEdit*>()->findChild<QToolButton*>();
+    const QDeadlineTimer deadline(1000);
+    while (clearButton->property("opacity").toReal() < 1 && !deadline.hasExpired())
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+}
+
 void searchHost(QWidget& window)
 {
-    static_cast<HostWindow&>(window).setKeyword(QStringLiteral("2026"));
+    search(window, QStringLiteral("2026"));
 }
 
 void searchHostForNothing(QWidget& window)
 {
-    static_cast<HostWindow&>(window).setKeyword(QStringLiteral("no such name"));
+    search(window, QStringLiteral("no such name"));
 }
 
 void openFirst(QWidget& window)

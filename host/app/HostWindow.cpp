@@ -33,7 +33,7 @@ const char* const headerStyle = R"(
 #header { background-color: rgb(4, 21, 46); }
 #header QLabel { color: white; font-size: 17px; font-weight: 600; }
 #header QLineEdit {
-    color: rgb(230, 238, 250); background-color: rgb(19, 41, 74); padding-left: 8px;
+    background-color: rgb(19, 41, 74); padding-left: 8px;
     border: 1px solid rgb(52, 78, 118); border-radius: 3px;
     selection-background-color: rgb(58, 136, 244);
 }
@@ -156,7 +156,7 @@ QWidget* HostWindow::makeHeader()
     m_keyword->setFixedWidth(220);
 
     auto* layout = new QHBoxLayout(header);
-    layout->setContentsMargins(32, 0, 24, 0);
+    layout->setContentsMargins(32, 0, 48, 0); // The edges of five tiles in a row.
     layout->setSpacing(12);
     layout->addWidget(new QLabel(tr("Survey projects"), header));
     layout->addStretch(1);
@@ -191,6 +191,7 @@ void HostWindow::makeStatusBar()
 {
     statusBar()->setStyleSheet(QString::fromLatin1(statusStyle));
     statusBar()->setSizeGripEnabled(false);
+    statusBar()->setContentsMargins(15, 0, 33, 0);
     m_count = new QLabel(this);
     m_opened = new QLabel(this);
     statusBar()->addWidget(m_count);

@@ -8,6 +8,7 @@
 
 #include <QApplication>
 #include <QCommandLineParser>
+#include <QDir>
 #include <QFont>
 #include <QLocale>
 #include <QTemporaryDir>
@@ -20,6 +21,7 @@ const char* const scaleVariable = "QT_SCALE_FACTOR";
 struct Options
 {
     QString projects;
+    QString settings;
     QString userId;
     QString gallery;
     QString language;
@@ -31,6 +33,9 @@ void addOptions(QCommandLineParser& parser)
     parser.addHelpOption();
     parser.addOption({QStringLiteral("projects"), QStringLiteral("Folder of the projects."),
                       QStringLiteral("DIR")});
+    parser.addOption({QStringLiteral("settings"),
+                      QStringLiteral("Folder of the settings, instead of the person's own."),
+                      QStringLiteral("DIR")});
     parser.addOption({QStringLiteral("user"),
                       QStringLiteral("Show the projects of this user; the settings keep it."),
                       QStringLiteral("ID"), sampleUserId()});
@@ -39,7 +44,8 @@ void addOptions(QCommandLineParser& parser)
          QStringLiteral("Write a picture of every window into a folder and exit. Sample projects "
                         "and settings of its own are used."),
          QStringLiteral("DIR")});
-    parser.addOption({QStringLiteral("scale"), QStringLiteral("Scale of the user interface."),
+    parser.addOption({QStringLiteral("scale"),
+                      QStringLiteral("Scale of the user interface, 0.5 to 4."),
                       QStringLiteral("FACTOR")});
     parser.addOption({QStringLiteral("lang"),
                       QStringLiteral("zh_CN or en; that of the system unless given."),
@@ -98,6 +104,13 @@ int runGallery(const Options& options)
 
 int runWindow(const Options& options)
 {
+    if (!options.settings.isEmpty()) {
+        if (!HostSettings::canUseFolder()) {
+            QTextStream(stderr) << "This system does not keep settings in a folder." << Qt::endl;
+            return 1;
+        }
+        HostSettings::useFolder(QDir(options.settings).absolutePath());
+    }
     if (!options.projects.isEmpty())
         HostSettings::setProjectRoot(options.projects);
     HostSettings::setCurrentUser(options.userId);
@@ -106,21 +119,26 @@ int runWindow(const Options& options)
     return QApplication::exec();
 }
 
-/// Whether the options make sense. Puts the scale where the application will look for it.
-bool understand(QCommandLineParser& parser, const QStringList& arguments)
+/// What is wrong with the command line; empty when nothing is. Puts the scale where the application
+/// will look for it.
+QString complaint(QCommandLineParser& parser, const QStringList& arguments)
 {
-    if (!parser.parse(arguments) || !parser.positionalArguments().isEmpty())
-        return false;
+    if (!parser.parse(arguments))
+        return parser.errorText();
+    if (!parser.positionalArguments().isEmpty())
+        return QStringLiteral("Unknown argument \"%1\".").arg(parser.positionalArguments().first());
     const QString language = parser.value(QStringLiteral("lang"));
     if (parser.isSet(QStringLiteral("lang")) && language != QLatin1String("zh_CN")
         && language != QLatin1String("en"))
-        return false;
+        return QStringLiteral("Unknown language \"%1\".").arg(language);
     if (!parser.isSet(QStringLiteral("scale")))
-        return true;
-    bool isNumber = false;
-    const double scale = parser.value(QStringLiteral("scale")).toDouble(&isNumber);
+        return {};
+    const QString text = parser.value(QStringLiteral("scale"));
+    const double scale = text.toDouble(); // 0 when it is no number.
+    if (!(scale >= 0.5 && scale <= 4))
+        return QStringLiteral("No scale from 0.5 to 4: \"%1\".").arg(text);
     qputenv(scaleVariable, QByteArray::number(scale));
-    return isNumber && scale >= 0.5 && scale <= 4;
+    return {};
 }
 
 } // namespace
@@ -129,13 +147,14 @@ int main(int argc, char* argv[])
 {
     QCommandLineParser parser;
     addOptions(parser);
-    const bool isUnderstood = understand(parser, argumentList(argc, argv));
-    if (!isUnderstood || parser.isSet(QStringLiteral("help"))) {
+    const QString wrong = complaint(parser, argumentList(argc, argv));
+    if (!wrong.isEmpty() || parser.isSet(QStringLiteral("help"))) {
         const QCoreApplication application(argc, argv); // Help needs no display.
-        QTextStream(isUnderstood ? stdout : stderr)
-            << (isUnderstood ? QString() : parser.errorText() + QLatin1Char('\n'))
-            << parser.helpText();
-        return isUnderstood ? 0 : 2;
+        if (wrong.isEmpty())
+            QTextStream(stdout) << parser.helpText();
+        else
+            QTextStream(stderr) << wrong << "\n\n" << parser.helpText();
+        return wrong.isEmpty() ? 0 : 2;
     }
     QApplication::setAttribute(Qt::AA_EnableHighDpiScaling);
     QApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
@@ -144,6 +163,7 @@ int main(int argc, char* argv[])
 
     Options options;
     options.projects = parser.value(QStringLiteral("projects"));
+    options.settings = parser.value(QStringLiteral("settings"));
     options.userId = parser.value(QStringLiteral("user"));
     options.gallery = parser.value(QStringLiteral("gallery"));
     options.language = parser.isSet(QStringLiteral("lang")) ? parser.value(QStringLiteral("lang"))

@@ -207,7 +207,7 @@ private:
             block.name = sampleBlockName(int(content.blocks.size()), area.isStrip(), language);
             block.cameraType = camera;
             block.planeType = aircraft;
-            block.type = static_cast<EBlockType>(area.isStrip() ? 2 : 1);
+            block.type = area.isStrip() ? BlockTypeStrip : BlockTypeArea;
             block.outline = outlineText(plane.toDegrees(area.anchor()));
             addTasks(block, SampleGeometry::surface(area.outline), wasFlown, content, random);
             content.blocks.append(block);

@@ -53,6 +53,5 @@ QVector<SampleProject> planSampleProjects(const SampleOptions& options);
 /// that thousands are written quickly.
 ///
 /// @return the project files in the order of the plan; empty when the catalogue is missing or a
-/// file
-///         cannot be written
+/// file cannot be written
 QStringList writeSampleProjects(const SampleOptions& options);

@@ -9,8 +9,10 @@
 #include <QSqlQuery>
 #include <QString>
 
-/// One SQLite file. The file may come from anywhere: its schema is not trusted, and nothing it
-/// holds makes a call print, throw or wait long. An object stays on the thread that opened it.
+/// One SQLite file. The file may come from anywhere: its schema is not trusted, a lock is not
+/// waited for long, and no call prints or throws. What a statement computes has no limit, though:
+/// where a table is expected, such a file may hold a view that never ends, so ask sqlite_master
+/// first. An object stays on the thread that opened it.
 ///
 ///     CRkDataBase database(file);
 ///     if (database.open()) {

@@ -23,8 +23,9 @@ class QNetworkReply;
 ///
 /// The operations are called from the thread that made the object. Each post ends with exactly one
 /// of upLoadFinished(), NetWorkError() and NoLogin(), which come from the object's thread and never
-/// while the call still runs. When that thread stops, posts under way fail; once it has stopped the
-/// object may be deleted from anywhere. A deleted object sends nothing more.
+/// while the call still runs. When that thread stops, posts under way fail, and those not yet begun
+/// wait until it starts again; once it has stopped the object may be deleted from anywhere. A
+/// deleted object sends nothing more.
 class RKPROJECTDBOPERATOR_EXPORT CRkUpLoadObject : public QObject
 {
     Q_OBJECT

@@ -254,14 +254,13 @@ void tst_Gallery::twiceTheScaleIsTwiceThePixels()
 void tst_Gallery::programRefusesBadOptions_data()
 {
     QTest::addColumn<QStringList>("arguments");
-    QTest::newRow("scale is no number")
-        << QStringList{QStringLiteral("--scale"), QStringLiteral("big")};
-    QTest::newRow("scale of nothing")
-        << QStringList{QStringLiteral("--scale"), QStringLiteral("0")};
-    QTest::newRow("unknown option") << QStringList{QStringLiteral("--nothing")};
-    QTest::newRow("unknown language")
-        << QStringList{QStringLiteral("--lang"), QStringLiteral("xx")};
-    QTest::newRow("stray word") << QStringList{QStringLiteral("word")};
+    QTest::addColumn<QString>("named");
+    QTest::newRow("scale is no number") << QStringList{"--scale", "big"} << "\"big\"";
+    QTest::newRow("scale of nothing") << QStringList{"--scale", "0"} << "\"0\"";
+    QTest::newRow("scale too large") << QStringList{"--scale", "9"} << "\"9\"";
+    QTest::newRow("unknown option") << QStringList{"--nothing"} << "nothing";
+    QTest::newRow("unknown language") << QStringList{"--lang", "xx"} << "\"xx\"";
+    QTest::newRow("stray word") << QStringList{"word"} << "\"word\"";
 }
 
 void tst_Gallery::programRefusesBadOptions()
@@ -272,6 +271,8 @@ void tst_Gallery::programRefusesBadOptions()
         runHost(arguments + QStringList{QStringLiteral("--gallery"), folder}, m_home.path());
     QCOMPARE(run.exitCode, 2);
     QVERIFY(run.errors.contains(QLatin1String("--gallery")));
+    QFETCH(QString, named);
+    QVERIFY2(run.errors.contains(named), qPrintable(run.errors));
     QVERIFY(!QFileInfo::exists(folder));
 }
 
@@ -280,7 +281,8 @@ void tst_Gallery::helpNamesTheOptions()
     const Run run = runHost({QStringLiteral("--help")}, m_home.path());
     QCOMPARE(run.exitCode, 0);
     const QString help = run.files.join(QLatin1Char('\n'));
-    for (const char* option : {"--projects", "--user", "--gallery", "--scale", "--lang"})
+    for (const char* option :
+         {"--projects", "--settings", "--user", "--gallery", "--scale", "--lang"})
         QVERIFY2(help.contains(QLatin1String(option)), option);
 }
 

@@ -12,6 +12,7 @@
 #include <QFileInfo>
 #include <QLabel>
 #include <QLineEdit>
+#include <QProcess>
 #include <QPushButton>
 #include <QSettings>
 #include <QStatusBar>
@@ -35,6 +36,7 @@ private slots:
     void emptyPageSaysSo();
     void newProjectIsMadeAndCounted();
     void openedProjectIsNamed();
+    void programKeepsItsSettingsWhereItIsTold();
 
 private:
     static QStringList statusTexts(const HostWindow& window);
@@ -158,6 +160,25 @@ void tst_HostWindow::openedProjectIsNamed()
     const HostWindow window;
     emit window.view()->projectOpened(QStringLiteral("/projects/River.1/River.1.proj"));
     QVERIFY(statusTexts(window).contains(QStringLiteral("Opened: River.1")));
+}
+
+void tst_HostWindow::programKeepsItsSettingsWhereItIsTold()
+{
+    const QString personal = m_home.path() + QStringLiteral("/personal");
+    const QString chosen = m_home.path() + QStringLiteral("/chosen");
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(QStringLiteral("XDG_CONFIG_HOME"), personal);
+    QProcess program;
+    program.setProcessEnvironment(environment);
+    program.start(QStringLiteral(RK_SURVEY_HOST),
+                  {QStringLiteral("--settings"), chosen, QStringLiteral("--user"),
+                   QStringLiteral("somebody"), QStringLiteral("--projects"),
+                   m_home.path() + QStringLiteral("/none")});
+    const QString file = QStringLiteral("/RkOrganization/RkCloud.conf");
+    QTRY_VERIFY_WITH_TIMEOUT(readFile(chosen + file).contains("UserID=somebody"), 30'000);
+    program.kill();
+    QVERIFY(program.waitForFinished());
+    QVERIFY(!QFileInfo::exists(personal + file));
 }
 
 QTEST_MAIN(tst_HostWindow)

@@ -43,7 +43,7 @@ QVector<Block> readBlocks(const QString& file)
     while (query.next()) {
         Block block;
         block.id = query.value(QStringLiteral("survey_area_guid")).toString();
-        block.isStrip = query.value(QStringLiteral("block_type")).toInt() == 2;
+        block.isStrip = query.value(QStringLiteral("block_type")).toInt() == BlockTypeStrip;
         const QString text =
             query.value(QStringLiteral("survey_area_coordinate_points")).toString();
         for (const QString& point : text.split(QLatin1Char(';'))) {
@@ -310,7 +310,7 @@ void tst_SampleProjects::blocksAndTasksLoad()
             QVERIFY(block.Load(SurveyAreaTableName, id, VANTRELL_VERSION, &database));
             QCOMPARE(block.GetAnchor().size(), expected.points.size());
             QVERIFY(!block.GetMissionList().isEmpty());
-            (block.GetBlockType() == 2 ? strips : areas) += 1;
+            (block.GetBlockType() == BlockTypeStrip ? strips : areas) += 1;
         }
     }
     QVERIFY(strips >= 3);

@@ -659,6 +659,7 @@ void tst_CRkProjectManagerView::filterThatHidesAll()
     view->slotFilterConditionChanged("", "", "", "no such name");
     QVERIFY(view->scene()->items().isEmpty());
     QCOMPARE(view->verticalScrollBar()->value(), 0);
+    QCOMPARE(view->verticalScrollBar()->maximum(), 0); // Nothing to scroll to.
     view->slotFilterConditionChanged("", "", "", "");
     QCOMPARE(tilesOf(*view).size(), 9);
 }
