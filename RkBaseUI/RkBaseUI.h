@@ -5,13 +5,26 @@
 
 /// Every public header of the library.
 
+#include <RkBaseUI/CRkActionView.h>
 #include <RkBaseUI/CRkBaseDialog.h>
 #include <RkBaseUI/CRkBaseWidget.h>
 #include <RkBaseUI/CRkGraphicsBlockItem.h>
+#include <RkBaseUI/CRkGraphicsPixmapItem.h>
 #include <RkBaseUI/CRkGraphicsProjectImageItem.h>
 #include <RkBaseUI/CRkGraphicsProjectRectItem.h>
 #include <RkBaseUI/CRkGraphicsProjectTextItem.h>
+#include <RkBaseUI/CRkMenuButton.h>
+#include <RkBaseUI/CRkMessageBox.h>
+#include <RkBaseUI/CRkParameterEditPage.h>
+#include <RkBaseUI/CRkProcessDialog.h>
+#include <RkBaseUI/CRkProgressWgt.h>
 #include <RkBaseUI/CRkProjectManagerView.h>
+#include <RkBaseUI/CRkSlider.h>
+#include <RkBaseUI/CRkTableDelegate.h>
+#include <RkBaseUI/CRkTipPushButton.h>
+#include <RkBaseUI/FlowLayout.h>
 #include <RkBaseUI/RkCityCategory.h>
+#include <RkBaseUI/RkEditorDescriptor.h>
+#include <RkBaseUI/RkHoveredPushButton.h>
 #include <RkBaseUI/SharedHelpers.h>
 #include <RkBaseUI/ToolTypes.h>

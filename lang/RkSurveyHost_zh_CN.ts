@@ -27,6 +27,194 @@
         <source>A tool window without a frame. Drag it anywhere.</source>
         <translation>无边框工具窗口，可在任意位置拖动。</translation>
     </message>
+    <message>
+        <source>%1 of %2 files</source>
+        <translation>第 %1 个文件，共 %2 个</translation>
+    </message>
+    <message>
+        <source>A project of this name is already there.</source>
+        <translation>同名项目已存在。</translation>
+    </message>
+    <message>
+        <source>Area</source>
+        <translation>面</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>相机</translation>
+    </message>
+    <message>
+        <source>Beijing</source>
+        <translation>北京</translation>
+    </message>
+    <message>
+        <source>Chengdu</source>
+        <translation>成都</translation>
+    </message>
+    <message>
+        <source>Circle</source>
+        <translation>圆</translation>
+    </message>
+    <message>
+        <source>Discard the changes to &quot;%1&quot;?</source>
+        <translation>放弃对“%1”的更改？</translation>
+    </message>
+    <message>
+        <source>Edit Parameters</source>
+        <translation>编辑参数</translation>
+    </message>
+    <message>
+        <source>Embankment of the eastern river arm between the second and the third lock, before and after the flood of last summer</source>
+        <translation>第二座与第三座船闸之间东侧河道的堤防，去年夏季洪水前后</translation>
+    </message>
+    <message>
+        <source>Harbin</source>
+        <translation>哈尔滨</translation>
+    </message>
+    <message>
+        <source>Height</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>Hohhot</source>
+        <translation>呼和浩特</translation>
+    </message>
+    <message>
+        <source>Kunming</source>
+        <translation>昆明</translation>
+    </message>
+    <message>
+        <source>Lhasa</source>
+        <translation>拉萨</translation>
+    </message>
+    <message>
+        <source>Line</source>
+        <translation>线</translation>
+    </message>
+    <message>
+        <source>Messages</source>
+        <translation>消息</translation>
+    </message>
+    <message>
+        <source>More about it in the &lt;a href=&quot;https://example.org&quot;&gt;manual&lt;/a&gt;.</source>
+        <translation>详情请参阅&lt;a href=&quot;https://example.org&quot;&gt;手册&lt;/a&gt;。</translation>
+    </message>
+    <message>
+        <source>Parameter</source>
+        <translation>参数</translation>
+    </message>
+    <message>
+        <source>Reading blocks</source>
+        <translation>正在读取测区</translation>
+    </message>
+    <message>
+        <source>Sanya</source>
+        <translation>三亚</translation>
+    </message>
+    <message>
+        <source>Shanghai</source>
+        <translation>上海</translation>
+    </message>
+    <message>
+        <source>Survey Host</source>
+        <translation>测量主程序</translation>
+    </message>
+    <message>
+        <source>The project is saved.</source>
+        <translation>项目已保存。</translation>
+    </message>
+    <message>
+        <source>The server does not answer.</source>
+        <translation>服务器没有响应。</translation>
+    </message>
+    <message>
+        <source>Upload</source>
+        <translation>上传</translation>
+    </message>
+    <message>
+        <source>Urumqi</source>
+        <translation>乌鲁木齐</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
+    </message>
+    <message>
+        <source>Waiting for the server</source>
+        <translation>正在等待服务器</translation>
+    </message>
+    <message>
+        <source>Writing the last file</source>
+        <translation>正在写入最后一个文件</translation>
+    </message>
+    <message>
+        <source>Xiamen</source>
+        <translation>厦门</translation>
+    </message>
+    <message>
+        <source>a tool picked</source>
+        <translation>已选工具</translation>
+    </message>
+    <message>
+        <source>checked</source>
+        <translation>已选中</translation>
+    </message>
+    <message>
+        <source>count</source>
+        <translation>计数</translation>
+    </message>
+    <message>
+        <source>disabled</source>
+        <translation>已禁用</translation>
+    </message>
+    <message>
+        <source>dot</source>
+        <translation>圆点</translation>
+    </message>
+    <message>
+        <source>highlighted</source>
+        <translation>高亮</translation>
+    </message>
+    <message>
+        <source>hovered</source>
+        <translation>悬停</translation>
+    </message>
+    <message>
+        <source>loading</source>
+        <translation>加载中</translation>
+    </message>
+    <message>
+        <source>loading, at the start</source>
+        <translation>加载中，起始</translation>
+    </message>
+    <message>
+        <source>loading, disabled</source>
+        <translation>加载中，已禁用</translation>
+    </message>
+    <message>
+        <source>normal</source>
+        <translation>正常</translation>
+    </message>
+    <message>
+        <source>not loading</source>
+        <translation>未加载</translation>
+    </message>
+    <message>
+        <source>pressed</source>
+        <translation>按下</translation>
+    </message>
+    <message>
+        <source>with tools</source>
+        <translation>有工具</translation>
+    </message>
+    <message>
+        <source>without tip</source>
+        <translation>无提示</translation>
+    </message>
+    <message>
+        <source>without tools</source>
+        <translation>无工具</translation>
+    </message>
 </context>
 <context>
     <name>HostWindow</name>

@@ -36,15 +36,15 @@ public:
     /// Sets the item's text and, with it, the name.
     void SetPlainText(const QString& text);
 
-    /// Makes the name elided to 140 pixels the item's text, and puts name, size and modification time
-    /// into the tooltip. What is painted while nobody edits is the name elided to 180 pixels.
+    /// Makes the name elided to 140 pixels the item's text, and puts name, size and modification
+    /// time into the tooltip. What is painted while nobody edits is the name elided to 180 pixels.
     void buildDisplayAndToolTip();
 
     /// At least 190 x 32.
     QRectF boundingRect() const override;
     void paint(QPainter* painter, const QStyleOptionGraphicsItem* option, QWidget* widget) override;
 
-signals:
+Q_SIGNALS:
     /// Editing ended with another name, without blanks at its end. It may be empty or no file name.
     void editFinished(const QString& newName);
 

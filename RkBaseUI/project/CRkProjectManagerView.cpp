@@ -12,6 +12,7 @@
 #include "project/ThumbnailQueue.h"
 #include "project/TileGrid.h"
 #include "project/UniqueProjectName.h"
+#include "widgets/ScreenPicture.h"
 
 #include <RkAlgorthm/RkAlgorthm.h>
 #include <RkData/RkData.h>
@@ -180,7 +181,7 @@ void CRkProjectManagerView::LoadExistProjects()
         return;
 
     const QString userId = ProjectListing::currentUserId();
-    const QPixmap noThumbnail(defaultThumbnail());
+    const QPixmap noThumbnail = screenPicture(defaultThumbnail());
     ThumbnailQueue thumbnails;
     const QStringList files = ProjectListing::projectFiles(root);
     for (const QString& file : files) {
@@ -208,7 +209,8 @@ CRkGraphicsProjectRectItem* CRkProjectManagerView::AddProjectItem(const QString&
     if (!project)
         return nullptr;
     const QImage image = Thumbnail::decode(project->imageData);
-    return _addTile(*project, image.isNull() ? QPixmap(defaultImage) : QPixmap::fromImage(image));
+    return _addTile(*project,
+                    image.isNull() ? screenPicture(defaultImage) : QPixmap::fromImage(image));
 }
 
 void CRkProjectManagerView::LoadBlockGravityListForProject(CRkGraphicsProjectRectItem* tile)

@@ -19,8 +19,8 @@ struct ProjectRecord;
 
 /// The projects of the current user as tiles in rows. It is filled once, from the project files
 /// below the project root, when it is made, and to list them anew a new view is made. One tile at
-/// most is selected, and a filter hides the tiles that do not meet its conditions. The tiles are the
-/// CRkGraphicsProjectRectItem among the items of the scene.
+/// most is selected, and a filter hides the tiles that do not meet its conditions. The tiles are
+/// the CRkGraphicsProjectRectItem among the items of the scene.
 ///
 ///     auto* view = new CRkProjectManagerView(page);
 ///     connect(view, &CRkProjectManagerView::projectOpened, this, &Page::openProject);
@@ -30,8 +30,8 @@ class RKBASEUI_EXPORT CRkProjectManagerView : public QGraphicsView
     Q_OBJECT
 
 public:
-    /// Takes the size of the parent and lists the projects; returns when every tile has its picture.
-    /// The current user is the one of the settings (see `UserInfoUserID`).
+    /// Takes the size of the parent and lists the projects; returns when every tile has its
+    /// picture. The current user is the one of the settings (see `UserInfoUserID`).
     explicit CRkProjectManagerView(QWidget* parent);
     ~CRkProjectManagerView() override;
 
@@ -41,7 +41,7 @@ public:
     /// Puts every visible tile in its place for the present width.
     void ResetItemPos();
 
-signals:
+Q_SIGNALS:
     /// A project bears another name, and so do its file and folder.
     void projectRenamed();
     /// A project was copied; the copy has its tile.
@@ -53,9 +53,9 @@ signals:
     /// For the page's connections; the view itself does not emit it.
     void blockOpened(const QString& blockId);
 
-public slots:
-    /// Makes a project with a name that is free, and its tile. Nothing happens when its file cannot be
-    /// written.
+public Q_SLOTS:
+    /// Makes a project with a name that is free, and its tile. Nothing happens when its file cannot
+    /// be written.
     void slotNewProject();
     void slotCopyProject();
     void slotDeleteProject();

@@ -26,8 +26,8 @@ class CRkBaseDialog;
 ///     dialog.AddLayout(formLayout);
 ///     if (dialog.exec() == 1) ...
 ///
-/// OK has the focus at first; a dialog with a field to fill in gives it to that: `edit->setFocus()`.
-/// The white of the content area goes to the widgets in it as well.
+/// OK has the focus at first; a dialog with a field to fill in gives it to that:
+/// `edit->setFocus()`. The white of the content area goes to the widgets in it as well.
 ///
 /// Without a parent the dialog is a window that stays on top. With a parent it is embedded in the
 /// parent like any child widget; a derived dialog that wants a parent and a window sets window
@@ -62,8 +62,8 @@ public:
     /// Runs the dialog modally. Returns 1 after OK, 0 after Cancel and -1 after the title bar's
     /// close button. Any other end, such as the Escape key, returns what the last of these buttons
     /// left, in an earlier run as well, and 0 when none was ever pressed: so does a
-    /// direct call of `accept()`, before which a derived dialog sets the result itself. Not the same as
-    /// `QDialog::result()`.
+    /// direct call of `accept()`, before which a derived dialog sets the result itself. Not the
+    /// same as `QDialog::result()`.
     int exec() override;
 
 protected Q_SLOTS:

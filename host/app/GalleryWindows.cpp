@@ -3,24 +3,18 @@
 
 #include "app/GalleryWindows.h"
 
+#include "app/GalleryParts.h"
 #include "app/HostWindow.h"
 
-#include <RkBaseUI/CRkBaseDialog.h>
-#include <RkBaseUI/CRkBaseWidget.h>
 #include <RkBaseUI/CRkGraphicsProjectRectItem.h>
 #include <RkBaseUI/CRkGraphicsProjectTextItem.h>
 #include <RkBaseUI/CRkProjectManagerView.h>
 
-#include <QCheckBox>
 #include <QCoreApplication>
 #include <QDeadlineTimer>
-#include <QFormLayout>
 #include <QGraphicsScene>
-#include <QLabel>
 #include <QLineEdit>
 #include <QMap>
-#include <QMouseEvent>
-#include <QPushButton>
 #include <QTextCursor>
 #include <QToolButton>
 #include <QVBoxLayout>
@@ -29,12 +23,7 @@
 
 namespace {
 
-using Window = std::unique_ptr<QWidget>;
-
-class Texts
-{
-    Q_DECLARE_TR_FUNCTIONS(Gallery)
-};
+using GalleryParts::Window;
 
 /// The view alone, four tiles wide, on the surface that it has in the host.
 Window viewPage()
@@ -140,77 +129,11 @@ void openFirst(QWidget& window)
     emit viewOf(window).projectOpened(firstTile(window).GetProjectFilePath());
 }
 
-Window baseDialog()
-{
-    auto dialog = std::make_unique<CRkBaseDialog>(nullptr);
-    dialog->SetWindowTitle(Texts::tr("Save Project As"));
-    auto* name = new QLineEdit(Texts::tr("River Embankment Inspection"));
-    auto* copyFlights = new QCheckBox(Texts::tr("Take the flights along"));
-    copyFlights->setChecked(true);
-    auto* form = new QFormLayout;
-    form->setContentsMargins(24, 20, 24, 20);
-    form->setHorizontalSpacing(16);
-    form->setVerticalSpacing(12);
-    form->addRow(Texts::tr("Name"), name);
-    form->addRow(Texts::tr("Scale"), new QLineEdit(QStringLiteral("1 : 1000")));
-    form->addRow(QString(), copyFlights);
-    dialog->AddLayout(form);
-    dialog->resize(440, 240);
-    return dialog;
-}
-
-Window baseDialogWithoutFrame()
-{
-    Window dialog = baseDialog();
-    static_cast<CRkBaseDialog&>(*dialog).SetFrameHidden(true);
-    return dialog;
-}
-
-/// Lets a button look as it does under the mouse, wherever the pointer is.
-void hover(QWidget& window, const char* button)
-{
-    auto* widget = window.findChild<QPushButton*>(QLatin1String(button));
-    widget->setAttribute(Qt::WA_UnderMouse);
-    QMouseEvent move(QEvent::MouseMove, widget->rect().center(), Qt::NoButton, Qt::NoButton,
-                     Qt::NoModifier);
-    QCoreApplication::sendEvent(widget, &move);
-}
-
-void hoverOk(QWidget& window)
-{
-    hover(window, "m_pBtnOK");
-}
-
-void hoverClose(QWidget& window)
-{
-    hover(window, "m_pBtnClose");
-}
-
-void pressOk(QWidget& window)
-{
-    hoverOk(window);
-    window.findChild<QPushButton*>(QStringLiteral("m_pBtnOK"))->setDown(true);
-}
-
-void disableOk(QWidget& window)
-{
-    window.findChild<QPushButton*>(QStringLiteral("m_pBtnOK"))->setEnabled(false);
-}
-
-Window baseWidget()
-{
-    auto widget = std::make_unique<CRkBaseWidget>(nullptr);
-    auto* layout = new QVBoxLayout(widget.get());
-    layout->setContentsMargins(24, 20, 24, 20);
-    layout->addWidget(new QLabel(Texts::tr("A tool window without a frame. Drag it anywhere.")));
-    return widget;
-}
-
 } // namespace
 
 QVector<Gallery::Entry> galleryWindows()
 {
-    return {
+    const QVector<Gallery::Entry> pages = {
         {QStringLiteral("view-tiles"), viewPage, {}},
         {QStringLiteral("view-selected"), viewPage, selectFirst},
         {QStringLiteral("view-editing"), viewPage, editFirstCaption},
@@ -220,12 +143,6 @@ QVector<Gallery::Entry> galleryWindows()
         {QStringLiteral("host-opened"), hostWindow, openFirst},
         {QStringLiteral("host-keyword"), hostWindow, searchHost},
         {QStringLiteral("host-empty"), hostWindow, searchHostForNothing},
-        {QStringLiteral("base-dialog"), baseDialog, {}},
-        {QStringLiteral("base-dialog-ok-hover"), baseDialog, hoverOk},
-        {QStringLiteral("base-dialog-ok-pressed"), baseDialog, pressOk},
-        {QStringLiteral("base-dialog-ok-disabled"), baseDialog, disableOk},
-        {QStringLiteral("base-dialog-close-hover"), baseDialog, hoverClose},
-        {QStringLiteral("base-dialog-without-frame"), baseDialogWithoutFrame, {}},
-        {QStringLiteral("base-widget"), baseWidget, {}},
     };
+    return pages + galleryDialogs() + galleryControls() + galleryPictures();
 }

@@ -8,3 +8,12 @@
 /// Every window of the library and of the host, each in the states that look different. Needs
 /// projects below the project root.
 QVector<Gallery::Entry> galleryWindows();
+
+/// Of these, the dialogs and other windows with a frame of the library's own.
+QVector<Gallery::Entry> galleryDialogs();
+
+/// Of these, sheets of controls in their states.
+QVector<Gallery::Entry> galleryControls();
+
+/// Of these, all pictures of the library on both grounds on which they are shown.
+QVector<Gallery::Entry> galleryPictures();

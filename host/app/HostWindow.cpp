@@ -37,7 +37,15 @@ const char* const headerStyle = R"(
     border: 1px solid rgb(52, 78, 118); border-radius: 3px;
     selection-background-color: rgb(58, 136, 244);
 }
-#header QLineEdit:focus { border-color: rgb(58, 136, 244); }
+#header QComboBox {
+    color: rgb(230, 238, 250); background-color: rgb(19, 41, 74); padding-left: 8px;
+    border: 1px solid rgb(52, 78, 118); border-radius: 3px;
+}
+#header QComboBox::drop-down { border: none; width: 26px; }
+#header QComboBox::down-arrow {
+    image: url(:/images/Normal/eng_search_arrow_nor.png); width: 21px; height: 21px;
+}
+#header QLineEdit:focus, #header QComboBox:focus { border-color: rgb(58, 136, 244); }
 #header QPushButton {
     color: white; background-color: rgb(58, 136, 244); border: none; border-radius: 3px;
     padding: 0 18px; font-weight: 600;

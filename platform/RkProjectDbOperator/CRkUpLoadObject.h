@@ -47,7 +47,7 @@ public:
     /// Posts address, headers and body as they are now and returns at once.
     void PostNetWorkReplyMessage();
 
-signals:
+Q_SIGNALS:
     /// Bytes of the body sent so far, and all of them.
     void uploadProgress(qint64 sent, qint64 total);
     /// The service took the document (a status from 200 to 299); the body of its answer.

@@ -2,10 +2,13 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
 #include <RkBaseUI/CRkBaseDialog.h>
+#include <RkBaseUI/CRkProgressWgt.h>
 
 #include "widgets/SendMouse.h"
 
 #include <QTest>
+
+#include <memory>
 
 namespace {
 
@@ -23,9 +26,55 @@ protected:
     void mouseReleaseEvent(QMouseEvent*) override { ++releases; }
 };
 
+using Make = std::unique_ptr<QDialog> (*)(QWidget* parent);
+
+std::unique_ptr<QDialog> baseDialog(QWidget* parent)
+{
+    return std::make_unique<CRkBaseDialog>(parent);
+}
+
+std::unique_ptr<QDialog> progressWidget(QWidget* parent)
+{
+    return std::make_unique<CRkProgressWgt>(QStringLiteral("Upload"), parent);
+}
+
+struct Kind
+{
+    const char* name;
+    Make make;
+};
+
+/// Every window that is dragged by its title bar.
+constexpr Kind kinds[] = {{"base dialog", baseDialog}, {"progress widget", progressWidget}};
+
+void addKinds()
+{
+    QTest::addColumn<Make>("make");
+    for (const Kind& kind : kinds)
+        QTest::newRow(kind.name) << kind.make;
+}
+
+struct Place
+{
+    const char* name;
+    QPoint at;
+};
+
+void addKindsAndPlaces(std::initializer_list<Place> places)
+{
+    QTest::addColumn<Make>("make");
+    QTest::addColumn<QPoint>("at");
+    for (const Kind& kind : kinds) {
+        for (const Place& place : places)
+            QTest::addRow("%s, %s", kind.name, place.name) << kind.make << place.at;
+    }
+}
+
 } // namespace
 
-class tst_CRkBaseDialogDrag : public QObject
+Q_DECLARE_METATYPE(Make)
+
+class tst_TitleBarDrag : public QObject
 {
     Q_OBJECT
 
@@ -34,28 +83,33 @@ private slots:
     void dragByTitleBar();
     void pressOffTitleBarDoesNotDrag_data();
     void pressOffTitleBarDoesNotDrag();
+    void rightButtonDoesNotDrag_data() { addKinds(); }
     void rightButtonDoesNotDrag();
+    void leftAmongHeldButtonsDrags_data() { addKinds(); }
     void leftAmongHeldButtonsDrags();
     void releaseEndsDrag_data();
     void releaseEndsDrag();
+    void titleBarRectangleCountsWhileHidden_data() { addKinds(); }
     void titleBarRectangleCountsWhileHidden();
+    void embeddedDialogKeepsPressesAndMoves_data() { addKinds(); }
     void embeddedDialogKeepsPressesAndMoves();
 };
 
-void tst_CRkBaseDialogDrag::dragByTitleBar_data()
+void tst_TitleBarDrag::dragByTitleBar_data()
 {
-    QTest::addColumn<QPoint>("at");
-    QTest::newRow("free space") << QPoint(150, 16);
-    QTest::newRow("top left corner") << QPoint(1, 0);
-    QTest::newRow("last line") << QPoint(150, 31);
-    QTest::newRow("logo") << QPoint(20, 16);
-    QTest::newRow("title") << QPoint(50, 16);
+    addKindsAndPlaces({{"free space", {150, 16}},
+                       {"top left corner", {1, 0}},
+                       {"last line", {150, 31}},
+                       {"first mark or letter", {20, 16}},
+                       {"title", {50, 16}}});
 }
 
-void tst_CRkBaseDialogDrag::dragByTitleBar()
+void tst_TitleBarDrag::dragByTitleBar()
 {
+    QFETCH(Make, make);
     QFETCH(QPoint, at);
-    CRkBaseDialog dialog(nullptr);
+    const std::unique_ptr<QDialog> owner = make(nullptr);
+    QDialog& dialog = *owner;
     dialog.move(100, 120);
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
@@ -72,18 +126,19 @@ void tst_CRkBaseDialogDrag::dragByTitleBar()
     QCOMPARE(dialog.pos(), QPoint(130, 147));
 }
 
-void tst_CRkBaseDialogDrag::pressOffTitleBarDoesNotDrag_data()
+void tst_TitleBarDrag::pressOffTitleBarDoesNotDrag_data()
 {
-    QTest::addColumn<QPoint>("at");
-    QTest::newRow("first line of the content") << QPoint(150, 32);
-    QTest::newRow("content") << QPoint(150, 50);
-    QTest::newRow("button row") << QPoint(20, 80);
+    addKindsAndPlaces({{"first line of the content", {150, 32}},
+                       {"content", {150, 50}},
+                       {"button row", {20, 80}}});
 }
 
-void tst_CRkBaseDialogDrag::pressOffTitleBarDoesNotDrag()
+void tst_TitleBarDrag::pressOffTitleBarDoesNotDrag()
 {
+    QFETCH(Make, make);
     QFETCH(QPoint, at);
-    CRkBaseDialog dialog(nullptr);
+    const std::unique_ptr<QDialog> owner = make(nullptr);
+    QDialog& dialog = *owner;
     dialog.move(100, 120);
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
@@ -96,9 +151,11 @@ void tst_CRkBaseDialogDrag::pressOffTitleBarDoesNotDrag()
     QTest::mouseRelease(window, Qt::LeftButton, {}, at);
 }
 
-void tst_CRkBaseDialogDrag::rightButtonDoesNotDrag()
+void tst_TitleBarDrag::rightButtonDoesNotDrag()
 {
-    CRkBaseDialog dialog(nullptr);
+    QFETCH(Make, make);
+    const std::unique_ptr<QDialog> owner = make(nullptr);
+    QDialog& dialog = *owner;
     dialog.move(100, 120);
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
@@ -113,9 +170,11 @@ void tst_CRkBaseDialogDrag::rightButtonDoesNotDrag()
     QTest::mouseRelease(window, Qt::RightButton, {}, QPoint(180, 20));
 }
 
-void tst_CRkBaseDialogDrag::leftAmongHeldButtonsDrags()
+void tst_TitleBarDrag::leftAmongHeldButtonsDrags()
 {
-    CRkBaseDialog dialog(nullptr);
+    QFETCH(Make, make);
+    const std::unique_ptr<QDialog> owner = make(nullptr);
+    QDialog& dialog = *owner;
     dialog.move(100, 120);
     const Qt::MouseButtons both = Qt::LeftButton | Qt::RightButton;
     sendMouse(dialog, QEvent::MouseButtonPress, {50, 10}, Qt::RightButton, both);
@@ -129,21 +188,29 @@ void tst_CRkBaseDialogDrag::leftAmongHeldButtonsDrags()
     QCOMPARE(dialog.pos(), QPoint(111, 125));
 }
 
-void tst_CRkBaseDialogDrag::releaseEndsDrag_data()
+void tst_TitleBarDrag::releaseEndsDrag_data()
 {
+    QTest::addColumn<Make>("make");
     QTest::addColumn<Qt::MouseButton>("button");
     QTest::addColumn<QPoint>("at");
-    QTest::newRow("left on the title bar") << Qt::LeftButton << QPoint(50, 10);
-    QTest::newRow("left on the content") << Qt::LeftButton << QPoint(50, 60);
-    QTest::newRow("left outside") << Qt::LeftButton << QPoint(-50, 900);
-    QTest::newRow("right") << Qt::RightButton << QPoint(50, 10);
+    for (const Kind& kind : kinds) {
+        const auto row = [&kind](const char* name) -> QTestData& {
+            return QTest::addRow("%s, %s", kind.name, name) << kind.make;
+        };
+        row("left on the title bar") << Qt::LeftButton << QPoint(50, 10);
+        row("left on the content") << Qt::LeftButton << QPoint(50, 60);
+        row("left outside") << Qt::LeftButton << QPoint(-50, 900);
+        row("right") << Qt::RightButton << QPoint(50, 10);
+    }
 }
 
-void tst_CRkBaseDialogDrag::releaseEndsDrag()
+void tst_TitleBarDrag::releaseEndsDrag()
 {
+    QFETCH(Make, make);
     QFETCH(Qt::MouseButton, button);
     QFETCH(QPoint, at);
-    CRkBaseDialog dialog(nullptr);
+    const std::unique_ptr<QDialog> owner = make(nullptr);
+    QDialog& dialog = *owner;
     dialog.move(100, 120);
     sendMouse(dialog, QEvent::MouseButtonPress, {50, 10}, Qt::LeftButton, Qt::LeftButton);
     sendMouse(dialog, QEvent::MouseMove, {55, 10}, Qt::NoButton, Qt::LeftButton);
@@ -153,13 +220,15 @@ void tst_CRkBaseDialogDrag::releaseEndsDrag()
     QCOMPARE(dialog.pos(), QPoint(105, 120));
 }
 
-void tst_CRkBaseDialogDrag::titleBarRectangleCountsWhileHidden()
+void tst_TitleBarDrag::titleBarRectangleCountsWhileHidden()
 {
-    CRkBaseDialog dialog(nullptr);
+    QFETCH(Make, make);
+    const std::unique_ptr<QDialog> owner = make(nullptr);
+    QDialog& dialog = *owner;
     dialog.move(100, 120);
     dialog.show();
     QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    dialog.SetFrameHidden(true);
+    dialog.findChild<QWidget*>(QStringLiteral("widget_2"))->hide();
     QCoreApplication::sendPostedEvents();
     QWindow* window = dialog.windowHandle();
 
@@ -174,11 +243,13 @@ void tst_CRkBaseDialogDrag::titleBarRectangleCountsWhileHidden()
     QTest::mouseRelease(window, Qt::LeftButton, {}, QPoint(150, 40));
 }
 
-void tst_CRkBaseDialogDrag::embeddedDialogKeepsPressesAndMoves()
+void tst_TitleBarDrag::embeddedDialogKeepsPressesAndMoves()
 {
+    QFETCH(Make, make);
     Parent parent;
     parent.resize(600, 400);
-    CRkBaseDialog dialog(&parent);
+    const std::unique_ptr<QDialog> owner = make(&parent);
+    QDialog& dialog = *owner;
     dialog.move(40, 50);
     parent.move(20, 30);
     parent.show();
@@ -194,5 +265,5 @@ void tst_CRkBaseDialogDrag::embeddedDialogKeepsPressesAndMoves()
     QCOMPARE(parent.releases, 1);
 }
 
-QTEST_MAIN(tst_CRkBaseDialogDrag)
-#include "tst_CRkBaseDialogDrag.moc"
+QTEST_MAIN(tst_TitleBarDrag)
+#include "tst_TitleBarDrag.moc"
