@@ -9,6 +9,10 @@
 
 namespace {
 
+/// Neither a widget nor a line can be larger. Spacers and spacings can, so that their sums need
+/// more than an int.
+constexpr int farthest = QWIDGETSIZE_MAX;
+
 /// What a spacing of -1 stands for in this layout, in pixels.
 int spacingOfSurroundings(const QLayout& layout, QStyle::PixelMetric metric,
                           Qt::Orientation orientation)
@@ -17,10 +21,15 @@ int spacingOfSurroundings(const QLayout& layout, QStyle::PixelMetric metric,
     const QStyle* style = widget ? widget->style() : QApplication::style();
 
     int spacing = -1;
-    if (const auto* outer = qobject_cast<const QLayout*>(layout.parent()))
+    // The base class knows nothing of the two spacings of a flow layout.
+    if (const auto* flow = qobject_cast<const FlowLayout*>(layout.parent())) {
+        spacing =
+            orientation == Qt::Horizontal ? flow->horizontalSpacing() : flow->verticalSpacing();
+    } else if (const auto* outer = qobject_cast<const QLayout*>(layout.parent())) {
         spacing = outer->spacing();
-    else if (widget)
+    } else if (widget) {
         spacing = style->pixelMetric(metric, nullptr, widget);
+    }
     if (spacing < 0) {
         spacing = style->layoutSpacing(QSizePolicy::PushButton, QSizePolicy::PushButton,
                                        orientation, nullptr, widget);
@@ -77,9 +86,9 @@ void FlowLayout::addItem(QLayoutItem* item)
 {
     if (!item)
         return;
+    if (QLayout* nested = item->layout(); nested && !adoptLayout(nested))
+        return;
     m_items.emplace_back(item);
-    if (QLayout* nested = item->layout())
-        addChildLayout(nested);
     invalidate();
 }
 
@@ -124,8 +133,10 @@ int FlowLayout::heightForWidth(int width) const
 QSize FlowLayout::minimumSize() const
 {
     QSize size(0, 0);
-    for (const auto& item : m_items)
-        size = size.expandedTo(item->minimumSize());
+    for (const auto& item : m_items) {
+        if (!isHidden(*item))
+            size = size.expandedTo(item->minimumSize().boundedTo({farthest, farthest}));
+    }
     const QMargins margins = contentsMargins();
     return size + QSize(margins.left() + margins.right(), margins.top() + margins.bottom());
 }
@@ -149,11 +160,10 @@ int FlowLayout::arrange(const QRect& rect, Placing placing) const
     const int vSpacing = verticalSpacing();
     const QWidget* widget = parentWidget();
     const bool isMirrored = widget ? widget->isRightToLeft() : QApplication::isRightToLeft();
-    // Only an empty layout can have a size left, that of its margins.
+    // Spares most items the question whether they are hidden, which takes a good part of a pass:
+    // of the hidden ones only a layout has a size, that of its margins.
     const bool hasLayouts = !children().isEmpty();
 
-    // Spacers and spacings can be of any size, so sums need more than an int.
-    constexpr int farthest = QWIDGETSIZE_MAX;
     const qint64 edge = qint64(area.left()) + area.width();
     qint64 x = area.left();
     qint64 y = area.top();

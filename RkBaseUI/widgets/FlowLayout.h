@@ -37,7 +37,8 @@ public:
     int horizontalSpacing() const;
     int verticalSpacing() const;
 
-    /// Appends the item, which the layout owns from now on. Null is ignored.
+    /// Appends the item, which the layout owns from now on. Null is ignored, and so is a layout
+    /// that already has a place: it stays with its owner.
     void addItem(QLayoutItem* item) override;
 
     int count() const override;

@@ -11,8 +11,9 @@
 
 /// Which editor `CRkTableDelegate` opens on a cell; stands in the cell's `Qt::UserRole`.
 ///
-///     const RkEditorDescriptor camera{RkEditorDescriptor::ComboBox, {{"Nadir", 1}, {"Oblique",
-///     5}}}; item->setData(Qt::UserRole, QVariant::fromValue(camera));
+///     const RkEditorDescriptor camera{RkEditorDescriptor::ComboBox,
+///                                     {{"Nadir", 1}, {"Oblique", 5}}};
+///     item->setData(Qt::UserRole, QVariant::fromValue(camera));
 ///
 /// Once a delegate was made, a string list converts to a descriptor: one with a single element, of
 /// whatever text, to a spin box, any other one to kind 0.

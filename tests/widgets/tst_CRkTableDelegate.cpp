@@ -3,8 +3,9 @@
 
 #include <RkBaseUI/CRkTableDelegate.h>
 
-#include <QAbstractItemView>
+#include <QApplication>
 #include <QComboBox>
+#include <QDate>
 #include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QMetaMethod>

@@ -126,6 +126,8 @@ private slots:
     void spacingOfTopLevelLayout();
     void spacingOfNestedLayout_data();
     void spacingOfNestedLayout();
+    void spacingOfFlowLayoutInFlowLayout_data();
+    void spacingOfFlowLayoutInFlowLayout();
     void spacingBetweenPushButtons();
     void spacingThatNobodyKnows();
     void spacingWithoutWidget();
@@ -141,6 +143,7 @@ private slots:
     void destroyedWidgetLeaves();
     void nestedLayout();
     void nestedLayoutTakenOut();
+    void layoutThatHasAPlace();
     void minimumSize();
     void asLayoutOfAWidget();
 
@@ -274,6 +277,16 @@ void tst_FlowLayout::hiddenWidgetsTakeNoRoom()
     QCOMPARE(layout->heightForWidth(100), 20);
 
     layout->itemAt(1)->widget()->show();
+    layout->setGeometry({0, 0, 100, 500});
+    QCOMPARE(layout->itemAt(2)->geometry(), QRect(80, 0, 20, 20));
+    QCOMPARE(layout->heightForWidth(100), 60);
+
+    // One that keeps its room is set out like the others.
+    QWidget* keeper = layout->itemAt(1)->widget();
+    QSizePolicy policy = keeper->sizePolicy();
+    policy.setRetainSizeWhenHidden(true);
+    keeper->setSizePolicy(policy);
+    keeper->hide();
     layout->setGeometry({0, 0, 100, 500});
     QCOMPARE(layout->itemAt(2)->geometry(), QRect(80, 0, 20, 20));
     QCOMPARE(layout->heightForWidth(100), 60);
@@ -440,6 +453,33 @@ void tst_FlowLayout::spacingOfNestedLayout()
     auto* layout = new FlowLayout;
     outer->addLayout(layout, 0, 0);
     QCOMPARE(QSize(layout->horizontalSpacing(), layout->verticalSpacing()), expected);
+}
+
+void tst_FlowLayout::spacingOfFlowLayoutInFlowLayout_data()
+{
+    QTest::addColumn<QSize>("outer");
+    QTest::addColumn<QSize>("expected");
+    QTest::newRow("given") << QSize(5, 3) << QSize(5, 3);
+    QTest::newRow("zero") << QSize(0, 0) << QSize(0, 0);
+    QTest::newRow("the style's") << QSize(-1, -1) << QSize(21, 22);
+}
+
+void tst_FlowLayout::spacingOfFlowLayoutInFlowLayout()
+{
+    QFETCH(QSize, outer);
+    QFETCH(QSize, expected);
+    Style style;
+    style.horizontal = 21;
+    style.vertical = 22;
+    QWidget page;
+    page.setStyle(&style);
+    auto* layout = new FlowLayout(&page, 0, outer.width(), outer.height());
+    auto* nested = new FlowLayout;
+    layout->addItem(nested);
+    auto* innermost = new FlowLayout;
+    nested->addItem(innermost);
+    QCOMPARE(QSize(nested->horizontalSpacing(), nested->verticalSpacing()), expected);
+    QCOMPARE(QSize(innermost->horizontalSpacing(), innermost->verticalSpacing()), expected);
 }
 
 void tst_FlowLayout::spacingBetweenPushButtons()
@@ -665,6 +705,26 @@ void tst_FlowLayout::nestedLayoutTakenOut()
     QVERIFY(!taken->layout()->parent());
 }
 
+/// With two owners it would be freed twice.
+void tst_FlowLayout::layoutThatHasAPlace()
+{
+    QWidget page;
+    auto* owner = new QHBoxLayout(&page);
+    auto* nested = new QHBoxLayout;
+    owner->addLayout(nested);
+
+    QWidget other;
+    auto* layout = new FlowLayout(&other);
+    for (QLayout* placed : {static_cast<QLayout*>(nested), static_cast<QLayout*>(layout)}) {
+        const QByteArray warning = "QLayout::addChildLayout: layout \"\" already has a parent";
+        QTest::ignoreMessage(QtWarningMsg, warning);
+        layout->addItem(placed);
+        QCOMPARE(layout->count(), 0);
+    }
+    QCOMPARE(nested->parent(), owner);
+    QCOMPARE(owner->count(), 1);
+}
+
 void tst_FlowLayout::minimumSize()
 {
     QWidget page;
@@ -677,6 +737,13 @@ void tst_FlowLayout::minimumSize()
 
     layout->itemAt(0)->widget()->hide();
     QCOMPARE(layout->minimumSize(), QSize(35, 30));
+
+    auto* empty = new QHBoxLayout;
+    empty->setContentsMargins(50, 50, 50, 50);
+    layout->addItem(empty);
+    QCOMPARE(layout->minimumSize(), QSize(35, 30));
+    layout->addItem(new QSpacerItem(60, 40));
+    QCOMPARE(layout->minimumSize(), QSize(65, 50));
 }
 
 /// What a page in a scroll area relies on: the outer layout gives the height that the width needs.
@@ -734,6 +801,9 @@ void tst_FlowLayout::enormousSpacers()
     layout->setGeometry({0, 0, 100, 100});
     QCOMPARE(layout->itemAt(0)->geometry().topLeft(), QPoint(0, 0));
     QVERIFY(layout->itemAt(4)->geometry().top() > 100);
+
+    layout->setContentsMargins(1, 2, 4, 8);
+    QCOMPARE(layout->minimumSize(), QSize(QWIDGETSIZE_MAX + 5, QWIDGETSIZE_MAX + 10));
 }
 
 QTEST_MAIN(tst_FlowLayout)
