@@ -8,6 +8,8 @@
 #include <RkBaseUI/CRkActionView.h>
 #include <RkBaseUI/CRkBaseDialog.h>
 #include <RkBaseUI/CRkBaseWidget.h>
+#include <RkBaseUI/CRkBlockManagerTable.h>
+#include <RkBaseUI/CRkBlockManagerWidget.h>
 #include <RkBaseUI/CRkGraphicsBlockItem.h>
 #include <RkBaseUI/CRkGraphicsPixmapItem.h>
 #include <RkBaseUI/CRkGraphicsProjectImageItem.h>
@@ -15,6 +17,7 @@
 #include <RkBaseUI/CRkGraphicsProjectTextItem.h>
 #include <RkBaseUI/CRkMenuButton.h>
 #include <RkBaseUI/CRkMessageBox.h>
+#include <RkBaseUI/CRkOpenedProjectInfo.h>
 #include <RkBaseUI/CRkParameterEditPage.h>
 #include <RkBaseUI/CRkProcessDialog.h>
 #include <RkBaseUI/CRkProgressWgt.h>

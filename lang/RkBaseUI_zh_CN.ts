@@ -36,6 +36,80 @@
     </message>
 </context>
 <context>
+    <name>CRkBlockManagerTable</name>
+    <message>
+        <source>CRkBlockManagerTable</source>
+        <translation>CRkBlockManagerTable</translation>
+    </message>
+    <message>
+        <source>Block Name</source>
+        <translation>测区名称</translation>
+    </message>
+    <message>
+        <source>Airplane Type</source>
+        <translation>飞机类型</translation>
+    </message>
+    <message>
+        <source>Camera Type</source>
+        <translation>相机类型</translation>
+    </message>
+    <message>
+        <source>Task Count</source>
+        <translation>任务数</translation>
+    </message>
+    <message>
+        <source>Flight Count</source>
+        <translation>架次数</translation>
+    </message>
+    <message>
+        <source>Blocks</source>
+        <translation>测区</translation>
+    </message>
+    <message>
+        <source>N/A</source>
+        <translation>无</translation>
+    </message>
+</context>
+<context>
+    <name>CRkBlockManagerWidget</name>
+    <message>
+        <source>CRkBlockManagerWidget</source>
+        <translation>CRkBlockManagerWidget</translation>
+    </message>
+    <message>
+        <source>Back to the projects</source>
+        <translation>返回项目列表</translation>
+    </message>
+    <message>
+        <source>Part of a block name</source>
+        <translation>测区名称的一部分</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Size : </source>
+        <translation>大小：</translation>
+    </message>
+    <message>
+        <source>Modified Time : </source>
+        <translation>修改时间：</translation>
+    </message>
+    <message>
+        <source>Block ount:</source>
+        <translation>测区数：</translation>
+    </message>
+    <message>
+        <source>Task count:</source>
+        <translation>任务数：</translation>
+    </message>
+    <message>
+        <source>Flight count:</source>
+        <translation>架次数：</translation>
+    </message>
+</context>
+<context>
     <name>CRkGraphicsProjectTextItem</name>
     <message>
         <source>Name:%1
@@ -131,6 +205,54 @@
     <message>
         <source>New Project</source>
         <translation>新建项目</translation>
+    </message>
+    <message>
+        <source>Copy Project</source>
+        <translation>复制项目</translation>
+    </message>
+    <message>
+        <source>Please select a project to copy.</source>
+        <translation>请选择要复制的项目。</translation>
+    </message>
+    <message>
+        <source>copy of </source>
+        <translation>副本 </translation>
+    </message>
+    <message>
+        <source>Delete Project</source>
+        <translation>删除项目</translation>
+    </message>
+    <message>
+        <source>Please select a project to delete.</source>
+        <translation>请选择要删除的项目。</translation>
+    </message>
+    <message>
+        <source>confirm delete &quot;</source>
+        <translation>确认删除“</translation>
+    </message>
+    <message>
+        <source>&quot;?</source>
+        <translation>”？</translation>
+    </message>
+    <message>
+        <source>File In Use</source>
+        <translation>文件正在使用</translation>
+    </message>
+    <message>
+        <source>The action can&apos;t be completed because the file is open in other application.Close the file and try again.</source>
+        <translation>操作无法完成，因为文件已在其他程序中打开。请关闭文件后重试。</translation>
+    </message>
+    <message>
+        <source>Rename Project</source>
+        <translation>重命名项目</translation>
+    </message>
+    <message>
+        <source>You must type a project name.</source>
+        <translation>必须输入项目名称。</translation>
+    </message>
+    <message>
+        <source>The action can&apos;t be completed because the file is open in other application or project name has been exist.</source>
+        <translation>操作无法完成，因为文件已在其他程序中打开，或项目名称已存在。</translation>
     </message>
 </context>
 <context>

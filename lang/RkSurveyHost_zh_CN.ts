@@ -223,6 +223,14 @@
         <translation>Vantrell</translation>
     </message>
     <message>
+        <source>Copy</source>
+        <translation>复制</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>删除</translation>
+    </message>
+    <message>
         <source>New project</source>
         <translation>新建项目</translation>
     </message>

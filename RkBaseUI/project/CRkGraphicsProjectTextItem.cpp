@@ -3,8 +3,9 @@
 
 #include "project/CRkGraphicsProjectTextItem.h"
 
+#include "project/CaptionText.h"
+
 #include <QApplication>
-#include <QFontMetricsF>
 #include <QKeyEvent>
 #include <QPainter>
 
@@ -15,22 +16,6 @@ namespace {
 constexpr qreal captionWidth = 190;
 constexpr qreal captionHeight = 32;
 constexpr qreal paintedNameWidth = 180;
-constexpr qreal displayedNameWidth = 140;
-/// Characters; far more than fit into the caption.
-constexpr int measuredName = 1000;
-
-QString elided(const QString& name, const QFont& font, qreal width)
-{
-    // The name of a damaged file may be megabytes, which would take seconds at every painting.
-    return QFontMetricsF(font).elidedText(name.left(measuredName), Qt::ElideRight, width);
-}
-
-QString withoutTrailingBlanks(QString text)
-{
-    while (text.endsWith(QLatin1Char(' ')))
-        text.chop(1);
-    return text;
-}
 
 } // namespace
 
@@ -52,7 +37,7 @@ void CRkGraphicsProjectTextItem::SetPlainText(const QString& text)
 
 void CRkGraphicsProjectTextItem::buildDisplayAndToolTip()
 {
-    setPlainText(elided(m_name, font(), displayedNameWidth));
+    setPlainText(CaptionText::elided(m_name, font()));
     setToolTip(tr("Name:%1\n Size:%2\n Modification time:%3").arg(m_name, m_size, m_modified));
 }
 
@@ -77,7 +62,7 @@ void CRkGraphicsProjectTextItem::paint(QPainter* painter, const QStyleOptionGrap
     painter->setFont(font());
     painter->setPen(defaultTextColor());
     painter->drawText(QRectF(0, 0, captionWidth, captionHeight), Qt::AlignCenter,
-                      elided(m_name, font(), paintedNameWidth));
+                      CaptionText::elided(m_name, font(), paintedNameWidth));
 }
 
 void CRkGraphicsProjectTextItem::focusInEvent(QFocusEvent* event)
@@ -91,7 +76,7 @@ void CRkGraphicsProjectTextItem::focusInEvent(QFocusEvent* event)
 void CRkGraphicsProjectTextItem::focusOutEvent(QFocusEvent* event)
 {
     QGraphicsTextItem::focusOutEvent(event);
-    const QString text = withoutTrailingBlanks(toPlainText());
+    const QString text = CaptionText::withoutTrailingBlanks(toPlainText());
     buildDisplayAndToolTip();
     if (text == m_name)
         return;

@@ -3,9 +3,11 @@
 
 #include "project/CRkProjectManagerView.h"
 
+#include "project/CaptionText.h"
 #include "project/CRkGraphicsProjectImageItem.h"
 #include "project/CRkGraphicsProjectRectItem.h"
 #include "project/CRkGraphicsProjectTextItem.h"
+#include "project/ProjectFiles.h"
 #include "project/ProjectFilter.h"
 #include "project/ProjectListing.h"
 #include "project/Thumbnail.h"
@@ -13,11 +15,13 @@
 #include "project/TileGrid.h"
 #include "project/UniqueProjectName.h"
 #include "widgets/ScreenPicture.h"
+#include "widgets/WarningBox.h"
 
 #include <RkAlgorthm/RkAlgorthm.h>
 #include <RkData/RkData.h>
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QGraphicsScene>
 #include <QMouseEvent>
@@ -92,19 +96,51 @@ void CRkProjectManagerView::ResetItemPos()
 
 void CRkProjectManagerView::slotNewProject()
 {
-    const QString name = _getUniqueProjcetName(QString());
-    const QString folder = CRkControl::GetInstance()->GetProjectDirPath() + name + QLatin1Char('/');
-    if (!QDir(folder).exists())
-        QDir().mkpath(folder);
-    AddProjectItem(defaultThumbnail(), folder + name + ProjectSuffix, true);
+    const QString file = ProjectFiles::prepare(_getUniqueProjcetName(QString()));
+    AddProjectItem(defaultThumbnail(), file, true);
 }
 
 void CRkProjectManagerView::slotCopyProject()
 {
+    const CRkGraphicsProjectRectItem* tile = _getSelectedProjectItem();
+    if (!tile) {
+        WarningBox::show(tr("Copy Project"), tr("Please select a project to copy."));
+        return;
+    }
+    const QString name = _getUniqueProjcetName(tr("copy of ") + tile->GetProjectName());
+    const QString copy = ProjectFiles::copy(tile->GetProjectFilePath(), name);
+    if (copy.isEmpty())
+        return;
+    AddProjectItem(defaultThumbnail(), copy, false);
+    emit projectCopied();
+    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
 
 void CRkProjectManagerView::slotDeleteProject()
 {
+    // Otherwise the question would take the focus from an open caption and let it rename meanwhile.
+    _endEditing();
+    CRkGraphicsProjectRectItem* tile = _getSelectedProjectItem();
+    if (!tile) {
+        WarningBox::show(tr("Delete Project"), tr("Please select a project to delete."));
+        return;
+    }
+    if (!m_tiles.contains(tile))
+        return;
+    if (!WarningBox::confirm(tr("Delete Project"),
+                             tr("confirm delete \"") + tile->GetProjectName() + tr("\"?")))
+        return;
+    if (!QFile::remove(tile->GetProjectFilePath())) {
+        WarningBox::show(tr("File In Use"),
+                         tr("The action can't be completed because the file is open in other "
+                            "application.Close the file and try again."));
+        return;
+    }
+    m_scene->removeItem(tile);
+    m_tiles.removeOne(tile);
+    m_visibleTiles.removeOne(tile);
+    tile->deleteLater();
+    ResetItemPos();
 }
 
 void CRkProjectManagerView::slotFilterConditionChanged(const QString& cityCondition,
@@ -112,8 +148,8 @@ void CRkProjectManagerView::slotFilterConditionChanged(const QString& cityCondit
                                                        const QString& /*sourceCondition*/,
                                                        const QString& keywordCondition)
 {
-    // An open caption ends its editing before the tiles are touched.
-    m_scene->setFocusItem(nullptr);
+    // Before the tiles are touched.
+    _endEditing();
 
     const ProjectFilter filter({cityCondition, dateCondition, keywordCondition},
                                {tr("date"), tr("to"), tr("city"), tr("all")});
@@ -138,10 +174,45 @@ void CRkProjectManagerView::slotFilterConditionChanged(const QString& cityCondit
 
 void CRkProjectManagerView::slotOpenProject()
 {
+    if (const CRkGraphicsProjectRectItem* tile = _getSelectedProjectItem())
+        _open(tile);
 }
 
-void CRkProjectManagerView::slotRenameProjectItem(const QString& /*newName*/)
+void CRkProjectManagerView::slotRenameProjectItem(const QString& newName)
 {
+    auto* caption = qobject_cast<CRkGraphicsProjectTextItem*>(sender());
+    auto* tile =
+        caption ? dynamic_cast<CRkGraphicsProjectRectItem*>(caption->parentItem()) : nullptr;
+    if (!tile)
+        return;
+
+    if (QString(newName).remove(QLatin1Char(' ')).isEmpty()) {
+        WarningBox::show(tr("Rename Project"), tr("You must type a project name."));
+        const QString formerName = baseName(tile);
+        tile->setToolTip(formerName);
+        caption->SetPlainText(CaptionText::elided(formerName, caption->font()));
+        return;
+    }
+    if (!m_tiles.contains(tile) || !QFileInfo::exists(tile->GetProjectFilePath()))
+        return;
+
+    const QString name = CaptionText::withoutTrailingBlanks(newName);
+    const QString file = ProjectFiles::rename(tile->GetProjectFilePath(), name, [] {
+        WarningBox::show(tr("Rename Project"),
+                         tr("The action can't be completed because the file is open in other "
+                            "application or project name has been exist."));
+    });
+    if (file.isEmpty()) {
+        caption->SetPrjName(tile->GetProjectName());
+        caption->buildDisplayAndToolTip();
+        return;
+    }
+    tile->SetProjectName(name);
+    tile->SetProjectFilePath(file);
+    caption->SetPlainText(name);
+    caption->buildDisplayAndToolTip();
+    tile->GetImageItem()->setToolTip(name);
+    emit projectRenamed();
 }
 
 void CRkProjectManagerView::resizeEvent(QResizeEvent* event)
@@ -170,8 +241,7 @@ void CRkProjectManagerView::mouseDoubleClickEvent(QMouseEvent* event)
         QGraphicsView::mouseDoubleClickEvent(event);
         return;
     }
-    m_openedProjectName = baseName(tile);
-    emit projectOpened(tile->GetProjectFilePath());
+    _open(tile);
 }
 
 void CRkProjectManagerView::LoadExistProjects()
@@ -279,6 +349,17 @@ QPoint CRkProjectManagerView::_calculateProjectItemPos(int index)
     setSceneRect(0, 0, m_scene->sceneRect().width(), height);
     verticalScrollBar()->setValue(height);
     return TileGrid::position(index, rect().width());
+}
+
+void CRkProjectManagerView::_open(const CRkGraphicsProjectRectItem* tile)
+{
+    m_openedProjectName = baseName(tile);
+    emit projectOpened(tile->GetProjectFilePath());
+}
+
+void CRkProjectManagerView::_endEditing()
+{
+    m_scene->setFocusItem(nullptr);
 }
 
 void CRkProjectManagerView::_UnSelectOtherItem(CRkGraphicsProjectRectItem* tile)

@@ -57,7 +57,10 @@ public Q_SLOTS:
     /// Makes a project with a name that is free, and its tile. Nothing happens when its file cannot
     /// be written.
     void slotNewProject();
+    /// Copies the selected project as "copy of" it, with the first such name that is free.
     void slotCopyProject();
+    /// Removes the selected project's file, once the user has confirmed it. Its folder and the file
+    /// of its flights stay.
     void slotDeleteProject();
 
     /// Shows the projects that meet all conditions, given as the filter bar shows them.
@@ -70,7 +73,10 @@ public Q_SLOTS:
     void slotFilterConditionChanged(const QString& cityCondition, const QString& dateCondition,
                                     const QString& sourceCondition,
                                     const QString& keywordCondition);
+    /// Emits projectOpened() for the selected project.
     void slotOpenProject();
+    /// Renames the project of the caption that sends the signal, without the blanks at the name's
+    /// end. When that fails, the user is told, and files and caption are as before.
     void slotRenameProjectItem(const QString& newName);
 
 protected:
@@ -88,6 +94,9 @@ private:
 
     CRkGraphicsProjectRectItem* _addTile(const ProjectRecord& project, const QPixmap& pixmap);
     QPoint _calculateProjectItemPos(int index);
+    void _open(const CRkGraphicsProjectRectItem* tile);
+    /// A caption that is being edited renames its project.
+    void _endEditing();
     // NOLINTNEXTLINE(bugprone-reserved-identifier): private names begin with an underscore here.
     void _UnSelectOtherItem(CRkGraphicsProjectRectItem* tile);
     CRkGraphicsProjectRectItem* _getSelectedProjectItem() const;

@@ -35,14 +35,17 @@ QString insertProject(const NewProject& project)
                    VANTRELL_VERSION);
 }
 
-QString selectComputedTables()
+QString selectComputedTables(const QStringList& tables)
 {
-    const QString project = quoted(ProjectTableName);
-    const QString areas = quoted(SurveyAreaTableName);
-    return "select 1 from sqlite_master where name collate nocase in (" + project + "," + areas
-        + ") and rootpage=0 union all select 1 from pragma_table_xinfo(" + project
-        + ") where hidden>1 union all select 1 from pragma_table_xinfo(" + areas
-        + ") where hidden>1";
+    QStringList names;
+    QString columns;
+    for (const QString& table : tables) {
+        names.append(quoted(table));
+        columns +=
+            " union all select 1 from pragma_table_xinfo(" + quoted(table) + ") where hidden>1";
+    }
+    return "select 1 from sqlite_master where name collate nocase in (" + names.join(',')
+        + ") and rootpage=0" + columns;
 }
 
 QString selectProject(const QString& userId)
@@ -62,13 +65,18 @@ QString selectBlocks(const QString& projectId)
         + " where project_id = " + quoted(projectId);
 }
 
+QString updateName(const QString& newName)
+{
+    return "UPDATE " + ProjectTableName + " SET project_name = " + quoted(newName);
+}
+
 QStringList rewriteIdentifiers(const QString& newName, const CopyIdentifiers& identifiers)
 {
     const QString missionId =
         "UPDATE " + MissionTableName + " SET id=" + quoted(identifiers.mission);
     return {
         "UPDATE " + ProjectTableName + " SET id = " + quoted(identifiers.project),
-        "UPDATE " + ProjectTableName + " SET project_name = " + quoted(newName),
+        updateName(newName),
         "UPDATE " + SurveyAreaTableName + " SET project_id=" + quoted(identifiers.project),
         "UPDATE " + SurveyAreaTableName + " SET id=" + quoted(identifiers.surveyArea),
         "UPDATE " + SurveyAreaTableName + " SET survey_area_guid=" + quoted(identifiers.surveyArea),
@@ -87,7 +95,7 @@ QString selectVersion()
 QStringList updateRenamed(const QString& newName, const QString& version, const QString& now)
 {
     return {
-        "UPDATE " + ProjectTableName + " SET project_name = " + quoted(newName),
+        updateName(newName),
         "UPDATE " + ProjectTableName + " SET version=" + version,
         // The time stands without quotes. SQLite refuses a date with a time so, and the old one
         // stays.

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include <RkAlgorthm/Constants.h>
+
 #include <QString>
 #include <QStringList>
 
@@ -33,9 +35,9 @@ QStringList createTables();
 
 QString insertProject(const NewProject& project);
 
-/// Gives a row when a table that the listing reads is a view or a virtual table, or has a generated
-/// column. Such a file, however small, can answer with rows without end or values of any size.
-QString selectComputedTables();
+/// Gives a row when one of the tables is a view or a virtual table, or has a generated column. Such
+/// a file, however small, can answer with rows without end or values of any size.
+QString selectComputedTables(const QStringList& tables = {ProjectTableName, SurveyAreaTableName});
 
 /// The project row of a user. Read by name: project_name, updated_at, id, software_version,
 /// image_data.
@@ -46,6 +48,9 @@ QString selectOutlines(const QString& projectId);
 
 /// survey_area_guid, survey_area_name and camera_type of each survey area.
 QString selectBlocks(const QString& projectId);
+
+/// Gives the project, that is every row of it, another name.
+QString updateName(const QString& newName);
 
 /// Makes a copied file a project of its own, in the order of sending. Every row of a table is
 /// rewritten.

@@ -38,7 +38,7 @@ QImage picture(const Entry& entry)
         entry.prepare(*window);
         QApplication::processEvents();
     }
-    return window->grab().toImage();
+    return entry.picture ? entry.picture(*window) : window->grab().toImage();
 }
 
 QString fileName(const Entry& entry, const QString& language, const QImage& image)

@@ -23,6 +23,8 @@ struct Entry
     std::function<std::unique_ptr<QWidget>()> make;
     /// Brings the shown and active window into the state of the picture; may be empty.
     std::function<void(QWidget& window)> prepare;
+    /// Makes the picture of the window; the window alone when empty.
+    std::function<QImage(QWidget& window)> picture = {};
 };
 
 /// A picture with fewer distinct colours than this shows nothing: even one word in black on white

@@ -3,8 +3,17 @@
 
 #include "app/GalleryParts.h"
 
+#include "app/HostWindow.h"
+
+#include <RkBaseUI/CRkGraphicsProjectRectItem.h>
+#include <RkBaseUI/CRkProjectManagerView.h>
+
+#include <QGraphicsScene>
 #include <QMouseEvent>
 #include <QPushButton>
+#include <QVBoxLayout>
+
+#include <algorithm>
 
 namespace GalleryParts {
 
@@ -19,6 +28,43 @@ void hover(QWidget& widget)
 void hover(QWidget& window, const char* button)
 {
     hover(*window.findChild<QPushButton*>(QLatin1String(button)));
+}
+
+Window viewPage()
+{
+    auto page = std::make_unique<QWidget>();
+    page->setObjectName(QStringLiteral("page"));
+    page->setStyleSheet(HostWindow::pageStyle());
+    page->resize(904, 640);
+    auto* layout = new QVBoxLayout(page.get());
+    layout->setContentsMargins(0, 16, 0, 0);
+    layout->addWidget(new CRkProjectManagerView(page.get()));
+    return page;
+}
+
+CRkProjectManagerView& viewOf(QWidget& window)
+{
+    return *window.findChild<CRkProjectManagerView*>();
+}
+
+QList<CRkGraphicsProjectRectItem*> tilesOf(QWidget& window)
+{
+    QList<CRkGraphicsProjectRectItem*> tiles;
+    const QList<QGraphicsItem*> items = viewOf(window).scene()->items();
+    for (QGraphicsItem* item : items) {
+        if (auto* tile = dynamic_cast<CRkGraphicsProjectRectItem*>(item))
+            tiles.append(tile);
+    }
+    return tiles;
+}
+
+CRkGraphicsProjectRectItem& firstTile(QWidget& window)
+{
+    const QList<CRkGraphicsProjectRectItem*> tiles = tilesOf(window);
+    Q_ASSERT(!tiles.isEmpty());
+    return **std::min_element(tiles.cbegin(), tiles.cend(), [](const auto* a, const auto* b) {
+        return a->y() < b->y() || (a->y() == b->y() && a->x() < b->x());
+    });
 }
 
 } // namespace GalleryParts

@@ -4,9 +4,12 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QList>
 
 #include <memory>
 
+class CRkGraphicsProjectRectItem;
+class CRkProjectManagerView;
 class QWidget;
 
 /// What the makers of the gallery's windows share.
@@ -19,6 +22,17 @@ class Texts
 {
     Q_DECLARE_TR_FUNCTIONS(Gallery)
 };
+
+/// The view alone, four tiles wide, on the surface that it has in the host.
+Window viewPage();
+
+/// The view in a window that has one.
+CRkProjectManagerView& viewOf(QWidget& window);
+
+QList<CRkGraphicsProjectRectItem*> tilesOf(QWidget& window);
+
+/// The tile in the corner where reading begins. There must be one.
+CRkGraphicsProjectRectItem& firstTile(QWidget& window);
 
 /// Lets the widget look as it does under the mouse, wherever the pointer is.
 void hover(QWidget& widget);

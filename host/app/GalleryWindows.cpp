@@ -23,46 +23,11 @@
 
 namespace {
 
+using GalleryParts::firstTile;
+using GalleryParts::tilesOf;
+using GalleryParts::viewOf;
+using GalleryParts::viewPage;
 using GalleryParts::Window;
-
-/// The view alone, four tiles wide, on the surface that it has in the host.
-Window viewPage()
-{
-    auto page = std::make_unique<QWidget>();
-    page->setObjectName(QStringLiteral("page"));
-    page->setStyleSheet(HostWindow::pageStyle());
-    page->resize(904, 640);
-    auto* layout = new QVBoxLayout(page.get());
-    layout->setContentsMargins(0, 16, 0, 0);
-    layout->addWidget(new CRkProjectManagerView(page.get()));
-    return page;
-}
-
-CRkProjectManagerView& viewOf(QWidget& window)
-{
-    return *window.findChild<CRkProjectManagerView*>();
-}
-
-QList<CRkGraphicsProjectRectItem*> tilesOf(QWidget& window)
-{
-    QList<CRkGraphicsProjectRectItem*> tiles;
-    const QList<QGraphicsItem*> items = viewOf(window).scene()->items();
-    for (QGraphicsItem* item : items) {
-        if (auto* tile = dynamic_cast<CRkGraphicsProjectRectItem*>(item))
-            tiles.append(tile);
-    }
-    return tiles;
-}
-
-/// The tile in the corner where reading begins.
-CRkGraphicsProjectRectItem& firstTile(QWidget& window)
-{
-    const QList<CRkGraphicsProjectRectItem*> tiles = tilesOf(window);
-    Q_ASSERT(!tiles.isEmpty());
-    return **std::min_element(tiles.cbegin(), tiles.cend(), [](const auto* a, const auto* b) {
-        return a->y() < b->y() || (a->y() == b->y() && a->x() < b->x());
-    });
-}
 
 void selectFirst(QWidget& window)
 {
@@ -144,5 +109,6 @@ QVector<Gallery::Entry> galleryWindows()
         {QStringLiteral("host-keyword"), hostWindow, searchHost},
         {QStringLiteral("host-empty"), hostWindow, searchHostForNothing},
     };
-    return pages + galleryDialogs() + galleryControls() + galleryPictures();
+    return pages + galleryBlocks() + galleryDialogs() + galleryControls() + galleryPictures()
+        + galleryMessages();
 }

@@ -9,6 +9,13 @@
 /// projects below the project root.
 QVector<Gallery::Entry> galleryWindows();
 
+/// Of these, the page of a project's blocks.
+QVector<Gallery::Entry> galleryBlocks();
+
+/// Of these, the project view with each of its messages. They come last, because one of them takes
+/// a project file away.
+QVector<Gallery::Entry> galleryMessages();
+
 /// Of these, the dialogs and other windows with a frame of the library's own.
 QVector<Gallery::Entry> galleryDialogs();
 

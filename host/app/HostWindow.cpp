@@ -4,6 +4,7 @@
 #include "app/HostWindow.h"
 
 #include <RkAlgorthm/RkAlgorthm.h>
+#include <RkBaseUI/CRkBlockManagerWidget.h>
 #include <RkBaseUI/CRkGraphicsProjectRectItem.h>
 #include <RkBaseUI/CRkProjectManagerView.h>
 #include <RkBaseUI/RkCityCategory.h>
@@ -18,6 +19,7 @@
 #include <QLineEdit>
 #include <QPalette>
 #include <QPushButton>
+#include <QStackedWidget>
 #include <QStatusBar>
 #include <QVBoxLayout>
 
@@ -48,7 +50,7 @@ const char* const headerStyle = R"(
 #header QLineEdit:focus, #header QComboBox:focus { border-color: rgb(58, 136, 244); }
 #header QPushButton {
     color: white; background-color: rgb(58, 136, 244); border: none; border-radius: 3px;
-    padding: 0 18px; font-weight: 600;
+    padding: 0 14px; font-weight: 600;
 }
 #header QPushButton:hover { background-color: rgb(92, 158, 250); }
 #header QPushButton:pressed { background-color: rgb(38, 108, 208); }
@@ -113,7 +115,11 @@ HostWindow::HostWindow(QWidget* parent)
     layout->setSpacing(0);
     layout->addWidget(makeHeader());
     layout->addWidget(makePage(), 1);
-    setCentralWidget(content);
+    m_blocks = new CRkBlockManagerWidget(this);
+    m_pages = new QStackedWidget(this);
+    m_pages->addWidget(content);
+    m_pages->addWidget(m_blocks);
+    setCentralWidget(m_pages);
     makeStatusBar();
 
     connect(m_place, qOverload<int>(&QComboBox::currentIndexChanged), this,
@@ -121,7 +127,11 @@ HostWindow::HostWindow(QWidget* parent)
     connect(m_date, qOverload<int>(&QComboBox::currentIndexChanged), this,
             &HostWindow::applyFilter);
     connect(m_keyword, &QLineEdit::textChanged, this, &HostWindow::applyFilter);
-    connect(m_view, &CRkProjectManagerView::projectOpened, this, &HostWindow::showOpened);
+    connect(m_view, &CRkProjectManagerView::projectOpened, this, &HostWindow::openProject);
+    connect(m_view, &CRkProjectManagerView::projectCopied, this, &HostWindow::applyFilter);
+    connect(m_view, &CRkProjectManagerView::projectRenamed, this, &HostWindow::applyFilter);
+    connect(m_blocks, &CRkBlockManagerWidget::backToProjectView, this, &HostWindow::showProjects);
+    connect(m_blocks, &CRkBlockManagerWidget::blockOpened, this, &HostWindow::openBlock);
     m_view->setFocus();
     updateCount();
 }
@@ -143,15 +153,12 @@ QWidget* HostWindow::makeHeader()
     header->setStyleSheet(QString::fromLatin1(headerStyle));
     header->setFixedHeight(headerHeight);
 
-    auto* newProject = new QPushButton(tr("New project"), header);
-    newProject->setCursor(Qt::PointingHandCursor);
-    connect(newProject, &QPushButton::clicked, this, [this] {
-        m_view->slotNewProject();
-        updateCount();
-    });
+    auto* newProject = makeAction(tr("New project"), &CRkProjectManagerView::slotNewProject);
+    auto* copyProject = makeAction(tr("Copy"), &CRkProjectManagerView::slotCopyProject);
+    auto* deleteProject = makeAction(tr("Delete"), &CRkProjectManagerView::slotDeleteProject);
     m_place = new QComboBox(header);
     m_place->setAccessibleName(tr("Place"));
-    m_place->setFixedWidth(190);
+    m_place->setFixedWidth(170);
     fillPlaces();
     m_date = new QComboBox(header);
     m_date->setAccessibleName(tr("Modified"));
@@ -161,20 +168,32 @@ QWidget* HostWindow::makeHeader()
     m_keyword->setAccessibleName(tr("Keyword"));
     m_keyword->setPlaceholderText(tr("Search projects"));
     m_keyword->setClearButtonEnabled(true);
-    m_keyword->setFixedWidth(220);
+    m_keyword->setFixedWidth(190);
 
     auto* layout = new QHBoxLayout(header);
     layout->setContentsMargins(32, 0, 48, 0); // The edges of five tiles in a row.
     layout->setSpacing(12);
     layout->addWidget(new QLabel(tr("Survey projects"), header));
     layout->addStretch(1);
-    for (QWidget* control : {static_cast<QWidget*>(m_place), static_cast<QWidget*>(m_date),
-                             static_cast<QWidget*>(m_keyword), static_cast<QWidget*>(newProject)}) {
+    const QList<QWidget*> controls = {m_place,    m_date,      m_keyword,
+                                      newProject, copyProject, deleteProject};
+    for (QWidget* control : controls) {
         control->setFixedHeight(controlHeight);
         control->setPalette(darkPalette());
         layout->addWidget(control);
     }
     return header;
+}
+
+QPushButton* HostWindow::makeAction(const QString& text, void (CRkProjectManagerView::*slot)())
+{
+    auto* button = new QPushButton(text, this);
+    button->setCursor(Qt::PointingHandCursor);
+    connect(button, &QPushButton::clicked, this, [this, slot] {
+        (m_view->*slot)();
+        updateCount();
+    });
+    return button;
 }
 
 QWidget* HostWindow::makePage()
@@ -240,7 +259,24 @@ void HostWindow::updateCount()
     m_noProjects->setVisible(shown == 0);
 }
 
-void HostWindow::showOpened(const QString& projectFile)
+void HostWindow::openProject(const QString& projectFile)
 {
+    if (!m_blocks->LoadExistBlocks(projectFile))
+        return;
+    m_pages->setCurrentWidget(m_blocks);
+    statusBar()->hide(); // The page has one of its own.
     m_opened->setText(tr("Opened: %1").arg(QFileInfo(projectFile).completeBaseName()));
+}
+
+void HostWindow::showProjects()
+{
+    m_pages->setCurrentIndex(0);
+    statusBar()->show();
+}
+
+void HostWindow::openBlock(const QString& blockId)
+{
+    m_blocks->OpenBlock(blockId);
+    showProjects();
+    m_opened->setText(tr("Opened: %1").arg(m_blocks->getOpenedProjectInfo().projectName));
 }

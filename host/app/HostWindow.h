@@ -5,13 +5,17 @@
 
 #include <QMainWindow>
 
+class CRkBlockManagerWidget;
 class CRkProjectManagerView;
 class QComboBox;
 class QLabel;
 class QLineEdit;
+class QPushButton;
+class QStackedWidget;
 
 /// The main window of the survey application: the projects of the current user as tiles, with a bar
-/// above that makes a project and filters by place, date and name.
+/// above that makes, copies and deletes projects and filters by place, date and name. An opened
+/// project shows the page of its blocks instead.
 ///
 ///     HostSettings::setCurrentUser(userId);
 ///     HostWindow window;
@@ -34,15 +38,20 @@ public:
 
 private:
     QWidget* makeHeader();
+    QPushButton* makeAction(const QString& text, void (CRkProjectManagerView::*slot)());
     QWidget* makePage();
     void makeStatusBar();
     void fillPlaces();
     void fillDates();
     void applyFilter();
     void updateCount();
-    void showOpened(const QString& projectFile);
+    void openProject(const QString& projectFile);
+    void showProjects();
+    void openBlock(const QString& blockId);
 
+    QStackedWidget* m_pages = nullptr;
     CRkProjectManagerView* m_view = nullptr;
+    CRkBlockManagerWidget* m_blocks = nullptr;
     QLabel* m_noProjects = nullptr;
     QComboBox* m_place = nullptr;
     QComboBox* m_date = nullptr;

@@ -23,6 +23,7 @@
 namespace {
 
 constexpr int pictures = 64;
+constexpr int blocksWithTasks = 2; // The block after them is not divided into tasks yet.
 constexpr double smallestCity = 20e6; // Square metres; below, a survey hardly finds room.
 
 /// Where a project may lie.
@@ -197,19 +198,22 @@ private:
                           const SampleGeometry::LocalPlane& plane, SampleLanguage language,
                           QRandomGenerator& random)
     {
-        const auto camera = static_cast<ECameraType>(random.bounded(1, 4));
-        const auto aircraft = static_cast<EPlaneType>(random.bounded(1, 6));
+        const int camera = random.bounded(1, 4);
+        const int aircraft = random.bounded(1, 6);
         const bool wasFlown = random.bounded(10) < 7;
         QPointF sum;
         for (const SampleGeometry::Area& area : scene.areas) {
             SampleBlock block;
+            const int number = int(content.blocks.size());
             block.id = makeId(random);
-            block.name = sampleBlockName(int(content.blocks.size()), area.isStrip(), language);
-            block.cameraType = camera;
-            block.planeType = aircraft;
+            block.name = sampleBlockName(number, area.isStrip(), language);
+            // Two cameras on two aircraft share the work.
+            block.cameraType = static_cast<ECameraType>(camera + number % 2);
+            block.planeType = static_cast<EPlaneType>(number % 3 == 0 ? aircraft : aircraft + 1);
             block.type = area.isStrip() ? BlockTypeStrip : BlockTypeArea;
             block.outline = outlineText(plane.toDegrees(area.anchor()));
-            addTasks(block, SampleGeometry::surface(area.outline), wasFlown, content, random);
+            if (number != blocksWithTasks)
+                addTasks(block, SampleGeometry::surface(area.outline), wasFlown, content, random);
             content.blocks.append(block);
             sum += area.outline.boundingRect().center();
         }

@@ -54,13 +54,6 @@ EBlockType blockType(int number)
     return number == BlockTypeArea || number == BlockTypeStrip ? EBlockType(number) : BlockTypeNone;
 }
 
-/// The value of the query's row in that column; invalid when there is no such column.
-QVariant valueOf(const QSqlQuery& row, const QString& column)
-{
-    const int index = row.record().indexOf(column);
-    return index < 0 ? QVariant() : row.value(index);
-}
-
 } // namespace
 
 CRkBlock::CRkBlock() = default;
@@ -85,12 +78,17 @@ bool CRkBlock::Load(const QString& tableName, const QString& projectId,
     QSqlQuery area =
         database->exec("select * from " + tableName + " where project_id=" + quoted(projectId)
                        + " and survey_area_guid=" + quoted(m_blockId));
+    const QSqlRecord columns = area.record();
     if (!area.next())
         return false;
+    const auto value = [&](const QString& column) {
+        const int index = columns.indexOf(column);
+        return index < 0 ? QVariant() : area.value(index);
+    };
 
-    m_type = blockType(valueOf(area, QStringLiteral("block_type")).toInt());
+    m_type = blockType(value(QStringLiteral("block_type")).toInt());
     QList<QPointF> outline =
-        parseOutline(valueOf(area, QStringLiteral("survey_area_coordinate_points")).toString());
+        parseOutline(value(QStringLiteral("survey_area_coordinate_points")).toString());
     if (SoftwareVersionIsOld(softwareVersion))
         takeToWgs84(outline);
     SetAnchor(outline);

@@ -4,12 +4,16 @@
 #include "app/HostSettings.h"
 #include "app/HostWindow.h"
 #include "samples/SampleProjects.h"
+#include "support/BoxAnswerer.h"
 #include "support/TestSupport.h"
 
+#include <RkBaseUI/CRkBlockManagerWidget.h>
+#include <RkBaseUI/CRkGraphicsProjectRectItem.h>
 #include <RkBaseUI/CRkProjectManagerView.h>
 
 #include <QComboBox>
 #include <QFileInfo>
+#include <QGraphicsScene>
 #include <QLabel>
 #include <QLineEdit>
 #include <QProcess>
@@ -17,6 +21,7 @@
 #include <QSettings>
 #include <QStatusBar>
 #include <QTest>
+#include <QTreeWidget>
 
 #include <algorithm>
 
@@ -35,11 +40,13 @@ private slots:
     void dateFilters();
     void emptyPageSaysSo();
     void newProjectIsMadeAndCounted();
-    void openedProjectIsNamed();
+    void selectedProjectIsCopiedAndDeleted();
+    void openedProjectShowsItsBlocks();
     void programKeepsItsSettingsWhereItIsTold();
 
 private:
     static QStringList statusTexts(const HostWindow& window);
+    static QPushButton* action(const HostWindow& window, const char* text);
 
     TestHome m_home;
 };
@@ -65,6 +72,15 @@ QStringList tst_HostWindow::statusTexts(const HostWindow& window)
     for (const QLabel* label : window.findChild<QStatusBar*>()->findChildren<QLabel*>())
         texts.append(label->text());
     return texts;
+}
+
+QPushButton* tst_HostWindow::action(const HostWindow& window, const char* text)
+{
+    const QList<QPushButton*> buttons = window.findChildren<QPushButton*>();
+    const auto found = std::find_if(buttons.begin(), buttons.end(), [text](const auto* button) {
+        return button->text() == QLatin1String(text);
+    });
+    return found == buttons.end() ? nullptr : *found;
 }
 
 void tst_HostWindow::settingsHoldTheUser()
@@ -96,9 +112,9 @@ void tst_HostWindow::keywordFilters()
     samples.now = QDateTime::currentDateTime();
     const QString name = planSampleProjects(samples).first().name;
     HostWindow window;
-    window.findChild<QLineEdit*>()->setText(name.toUpper());
+    window.setKeyword(name.toUpper());
     QVERIFY(statusTexts(window).contains(QStringLiteral("1 project")));
-    window.findChild<QLineEdit*>()->clear();
+    window.setKeyword(QString());
     QVERIFY(statusTexts(window).contains(QStringLiteral("20 projects")));
 }
 
@@ -148,18 +164,65 @@ void tst_HostWindow::emptyPageSaysSo()
 void tst_HostWindow::newProjectIsMadeAndCounted()
 {
     HostWindow window;
-    QTest::mouseClick(window.findChild<QPushButton*>(), Qt::LeftButton);
+    QTest::mouseClick(action(window, "New project"), Qt::LeftButton);
     QVERIFY(statusTexts(window).contains(QStringLiteral("21 projects")));
     const QString file = m_home.projectRoot() + QStringLiteral("New Project/New Project.proj");
     QVERIFY(QFileInfo::exists(file));
     QVERIFY(QFile::remove(file));
 }
 
-void tst_HostWindow::openedProjectIsNamed()
+void tst_HostWindow::selectedProjectIsCopiedAndDeleted()
 {
-    const HostWindow window;
+    HostWindow window;
+    const BoxAnswerer answers;
+    const auto isTile = [](const QGraphicsItem* item) {
+        return dynamic_cast<const CRkGraphicsProjectRectItem*>(item) != nullptr;
+    };
+    const QList<QGraphicsItem*> items = window.view()->scene()->items();
+    auto* tile = dynamic_cast<CRkGraphicsProjectRectItem*>(
+        *std::find_if(items.begin(), items.end(), isTile));
+    const QString copy = QStringLiteral("copy of ") + tile->GetProjectName();
+    tile->setSelected(true);
+    QTest::mouseClick(action(window, "Copy"), Qt::LeftButton);
+    QVERIFY(statusTexts(window).contains(QStringLiteral("21 projects")));
+    const QString file = m_home.projectRoot() + copy + '/' + copy + ".proj";
+    QVERIFY(QFileInfo::exists(file));
+
+    window.setKeyword(copy);
+    const QList<QGraphicsItem*> shown = window.view()->scene()->items();
+    (*std::find_if(shown.begin(), shown.end(), isTile))->setSelected(true);
+    QTest::mouseClick(action(window, "Delete"), Qt::LeftButton);
+    QVERIFY(statusTexts(window).contains(QStringLiteral("0 projects")));
+    QVERIFY(!QFileInfo::exists(file));
+    QCOMPARE(answers.boxes.size(), 1);
+}
+
+void tst_HostWindow::openedProjectShowsItsBlocks()
+{
+    HostWindow window;
+    window.show();
+    auto* page = window.findChild<CRkBlockManagerWidget*>();
+    QVERIFY(!page->isVisible());
     emit window.view()->projectOpened(QStringLiteral("/projects/River.1/River.1.proj"));
-    QVERIFY(statusTexts(window).contains(QStringLiteral("Opened: River.1")));
+    QVERIFY(!page->isVisible()); // It is not there.
+
+    SampleOptions samples;
+    samples.userId = sampleUserId();
+    samples.now = QDateTime::currentDateTime();
+    const QString name = planSampleProjects(samples).first().name;
+    emit window.view()->projectOpened(m_home.projectRoot() + name + '/' + name + ".proj");
+    QVERIFY(page->isVisible());
+    QVERIFY(!window.view()->isVisible());
+    QCOMPARE(page->getOpenedProjectInfo().projectName, name);
+    QVERIFY(page->findChild<QTreeWidget*>()->topLevelItemCount() > 0);
+
+    emit page->backToProjectView();
+    QVERIFY(window.view()->isVisible());
+    QVERIFY(statusTexts(window).contains(QStringLiteral("Opened: ") + name));
+
+    emit window.view()->projectOpened(page->getOpenedProjectInfo().projectFilePath);
+    emit page->blockOpened(QStringLiteral("any"));
+    QVERIFY(window.view()->isVisible());
 }
 
 void tst_HostWindow::programKeepsItsSettingsWhereItIsTold()

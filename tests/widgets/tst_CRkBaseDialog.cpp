@@ -3,6 +3,9 @@
 
 #include <RkBaseUI/CRkBaseDialog.h>
 
+#include "support/Brackets.h"
+#include "widgets/ExecAnd.h"
+
 #include <QApplication>
 #include <QGridLayout>
 #include <QHBoxLayout>
@@ -14,10 +17,8 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
-#include <QTranslator>
 #include <QVBoxLayout>
 
-#include <functional>
 #include <memory>
 
 namespace {
@@ -50,17 +51,6 @@ public:
     QStringList handlers;
 };
 
-/// Answers every text of the class's own context.
-class Brackets : public QTranslator
-{
-public:
-    QString translate(const char* context, const char* text, const char*, int) const override
-    {
-        return qstrcmp(context, "CRkBaseDialog") == 0 ? QString("[%1]").arg(text) : QString();
-    }
-    bool isEmpty() const override { return false; }
-};
-
 template <typename T>
 T* part(const QWidget& dialog, const char* name)
 {
@@ -79,18 +69,6 @@ QRect cellsOf(const QGridLayout& grid, int index)
 }
 
 using Action = void (*)(Dialog&);
-
-/// Runs the dialog and, once it is on the screen, the action.
-int execAnd(CRkBaseDialog& dialog, const std::function<void()>& action)
-{
-    QTimer::singleShot(0, &dialog, [&dialog, &action] {
-        if (QTest::qWaitForWindowExposed(&dialog))
-            action();
-        else
-            dialog.reject();
-    });
-    return dialog.exec();
-}
 
 QString buttonSheet(const QString& name, const QString& end)
 {
@@ -183,7 +161,7 @@ void tst_CRkBaseDialog::flags()
 
 void tst_CRkBaseDialog::textsAreOfTheClassContext()
 {
-    Brackets brackets;
+    Brackets brackets("CRkBaseDialog");
     QVERIFY(QCoreApplication::installTranslator(&brackets));
     const Dialog dialog(nullptr);
     QCOMPARE(dialog.windowTitle(), QString("[Vantrell]"));

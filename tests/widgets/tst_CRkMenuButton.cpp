@@ -7,12 +7,13 @@
 #include <RkBaseUI/CRkActionView.h>
 #include <RkBaseUI/CRkMenuButton.h>
 
+#include "widgets/AtScale.h"
+
 #include <QCursor>
 #include <QListWidget>
 #include <QMetaMethod>
 #include <QPainter>
 #include <QPointer>
-#include <QProcess>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -617,19 +618,8 @@ void tst_CRkMenuButton::triangle_data()
 void tst_CRkMenuButton::triangle()
 {
     QFETCH(int, scale);
-    if (qRound(qApp->devicePixelRatio()) != scale) {
-        QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-        QVERIFY(!environment.contains("RK_TEST_INNER"));
-        environment.insert("RK_TEST_INNER", "1");
-        environment.insert("QT_SCALE_FACTOR", QString::number(scale));
-        QProcess inner;
-        inner.setProcessEnvironment(environment);
-        inner.start(QCoreApplication::applicationFilePath(),
-                    {QString("triangle:%1").arg(QTest::currentDataTag())});
-        QVERIFY(inner.waitForFinished());
-        QVERIFY2(inner.exitCode() == 0, inner.readAllStandardOutput());
+    if (!isAtScale(scale))
         return;
-    }
 
     CRkMenuButton menu(nullptr);
     menu.setText("text");

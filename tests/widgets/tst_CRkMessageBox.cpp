@@ -4,6 +4,7 @@
 #include <RkBaseUI/CRkMessageBox.h>
 
 #include "widgets/AtScale.h"
+#include "widgets/ExecAnd.h"
 #include "widgets/Render.h"
 
 #include <QApplication>
@@ -15,10 +16,7 @@
 #include <QScreen>
 #include <QTemporaryDir>
 #include <QTest>
-#include <QTimer>
 #include <QUrl>
-
-#include <functional>
 
 namespace {
 
@@ -30,18 +28,6 @@ QLabel& icon(const CRkMessageBox& box)
 QLabel& text(const CRkMessageBox& box)
 {
     return *box.findChild<QLabel*>(QStringLiteral("TextMsg"));
-}
-
-/// Runs the box and, once it is on the screen, the action.
-int execAnd(CRkMessageBox& box, const std::function<void()>& action)
-{
-    QTimer::singleShot(0, &box, [&box, &action] {
-        if (QTest::qWaitForWindowExposed(&box))
-            action();
-        else
-            box.reject();
-    });
-    return box.exec();
 }
 
 /// Writes a picture and gives its path.

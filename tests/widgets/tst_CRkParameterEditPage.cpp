@@ -3,6 +3,9 @@
 
 #include <RkBaseUI/CRkParameterEditPage.h>
 
+#include "support/Brackets.h"
+#include "widgets/ExecAnd.h"
+
 #include <QAccessible>
 #include <QApplication>
 #include <QGridLayout>
@@ -11,25 +14,10 @@
 #include <QMetaMethod>
 #include <QPushButton>
 #include <QTest>
-#include <QTimer>
-#include <QTranslator>
 
-#include <functional>
 #include <memory>
 
 namespace {
-
-/// Answers every text of the class's own context.
-class Brackets : public QTranslator
-{
-public:
-    QString translate(const char* context, const char* text, const char*, int) const override
-    {
-        return qstrcmp(context, "CRkParameterEditPage") == 0 ? QString("[%1]").arg(text)
-                                                             : QString();
-    }
-    bool isEmpty() const override { return false; }
-};
 
 QStringList messages;
 
@@ -79,17 +67,6 @@ QList<bool> locks(const QWidget& page)
 QRect placeIn(const QWidget& dialog, const QWidget& widget)
 {
     return {widget.mapTo(&dialog, QPoint(0, 0)), widget.size()};
-}
-
-int execAnd(CRkBaseDialog& dialog, const std::function<void()>& action)
-{
-    QTimer::singleShot(0, &dialog, [&dialog, &action] {
-        if (QTest::qWaitForWindowExposed(&dialog))
-            action();
-        else
-            dialog.reject();
-    });
-    return dialog.exec();
 }
 
 } // namespace
@@ -180,7 +157,7 @@ void tst_CRkParameterEditPage::formLiesInTheContentArea()
 
 void tst_CRkParameterEditPage::textsAreOfTheClassContext()
 {
-    Brackets brackets;
+    Brackets brackets("CRkParameterEditPage");
     QVERIFY(QCoreApplication::installTranslator(&brackets));
     const CRkParameterEditPage page;
     QCOMPARE(names(page),

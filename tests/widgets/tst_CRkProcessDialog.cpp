@@ -3,6 +3,8 @@
 
 #include <RkBaseUI/CRkProcessDialog.h>
 
+#include "support/Brackets.h"
+
 #include "widgets/AtScale.h"
 #include "widgets/Render.h"
 
@@ -13,7 +15,6 @@
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
-#include <QTranslator>
 
 #include <limits>
 #include <memory>
@@ -30,17 +31,6 @@ QString count(const CRkProcessDialog& dialog)
 {
     return part<QLabel>(dialog, "label_sum").text();
 }
-
-/// Answers every text of the class's own context.
-class Brackets : public QTranslator
-{
-public:
-    QString translate(const char* context, const char* text, const char*, int) const override
-    {
-        return qstrcmp(context, "CRkProcessDialog") == 0 ? QString("[%1]").arg(text) : QString();
-    }
-    bool isEmpty() const override { return false; }
-};
 
 } // namespace
 
@@ -111,7 +101,7 @@ void tst_CRkProcessDialog::window()
 void tst_CRkProcessDialog::titleIsTranslated()
 {
     QCOMPARE(CRkProcessDialog(nullptr).windowTitle(), QString("Vantrell"));
-    Brackets brackets;
+    Brackets brackets("CRkProcessDialog");
     QVERIFY(QCoreApplication::installTranslator(&brackets));
     QCOMPARE(CRkProcessDialog(nullptr).windowTitle(), QString("[Vantrell]"));
 }

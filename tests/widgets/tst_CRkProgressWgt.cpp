@@ -3,6 +3,8 @@
 
 #include <RkBaseUI/CRkProgressWgt.h>
 
+#include "support/Brackets.h"
+
 #include "widgets/Render.h"
 
 #include <QApplication>
@@ -16,7 +18,6 @@
 #include <QSignalSpy>
 #include <QTest>
 #include <QTimer>
-#include <QTranslator>
 
 #include <functional>
 #include <limits>
@@ -57,17 +58,6 @@ public:
     }
 
     QStringList handlers;
-};
-
-/// Answers every text of the class's own context.
-class Brackets : public QTranslator
-{
-public:
-    QString translate(const char* context, const char* text, const char*, int) const override
-    {
-        return qstrcmp(context, "CRkProgressWgt") == 0 ? QString("[%1]").arg(text) : QString();
-    }
-    bool isEmpty() const override { return false; }
 };
 
 QStringList messages;
@@ -349,7 +339,7 @@ void tst_CRkProgressWgt::texts()
 
 void tst_CRkProgressWgt::textsAreOfTheClassContext()
 {
-    Brackets brackets;
+    Brackets brackets("CRkProgressWgt");
     QVERIFY(QCoreApplication::installTranslator(&brackets));
     CRkProgressWgt widget("Upload", nullptr);
     QCOMPARE(part<QPushButton>(widget, "m_pBtnRetry").text(), QString("[Retry]"));

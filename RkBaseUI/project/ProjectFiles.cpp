@@ -1,0 +1,176 @@
+// SPDX-FileCopyrightText: 2026 The RkBaseUI developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+
+#include "project/ProjectFiles.h"
+
+#include "project/ProjectStoreSql.h"
+
+#include <RkAlgorthm/RkAlgorthm.h>
+#include <RkData/RkData.h>
+
+#include <QDateTime>
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QSqlDatabase>
+#include <QSqlQuery>
+#include <QUuid>
+#include <QVariant>
+
+namespace ProjectFiles {
+
+namespace {
+
+QString root()
+{
+    return CRkControl::GetInstance()->GetProjectDirPath();
+}
+
+/// Where a project is to be. Joining the parts is left to the caller, because copies have a second
+/// separator behind the root.
+struct Place
+{
+    QString folder;
+    QString file;
+};
+
+Place placeBelow(const QString& start, const QString& name, const QString& suffix)
+{
+    const QString folder = start + name + QLatin1Char('/');
+    return {folder, folder + name + suffix};
+}
+
+bool isBelowRoot(const QString& folder)
+{
+    const QString clean = QDir::cleanPath(root());
+    return QDir::cleanPath(folder).startsWith(clean + QLatin1Char('/'));
+}
+
+void makeFolder(const QString& folder)
+{
+    if (!QDir(folder).exists())
+        QDir().mkpath(folder);
+}
+
+/// Removes the folder, and those around it up to the root, as far as they are empty.
+void removeEmptyFolders(const QString& folder)
+{
+    QString path = QDir::cleanPath(folder);
+    while (isBelowRoot(path) && QDir().rmdir(path))
+        path = QFileInfo(path).path();
+}
+
+QString newIdentifier()
+{
+    return GetUidVariant(QUuid::createUuid().toString());
+}
+
+/// Whether the name stays between the quotes of a statement. Behind a quote without a partner it
+/// would be a part of the statement, which could then change anything, or never end.
+bool staysQuoted(QString name)
+{
+    return !name.remove(QStringLiteral("''")).contains(QLatin1Char('\''));
+}
+
+/// The statements without the one for the name when the name would break out of it.
+QStringList harmless(QStringList statements, const QString& newName)
+{
+    if (!staysQuoted(newName))
+        statements.removeOne(ProjectStoreSql::updateName(newName));
+    return statements;
+}
+
+bool rewriteIdentifiers(const QString& file, const QString& newName)
+{
+    // The connection is closed in the end and stays in the toolkit's list under a name that no
+    // other connection will ever have.
+    QSqlDatabase database =
+        QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QUuid::createUuid().toString());
+    database.setDatabaseName(file);
+    if (!database.open())
+        return false;
+    // In one transaction, so that a copy is never half another project.
+    database.transaction();
+    QSqlQuery query(database);
+    const ProjectStoreSql::CopyIdentifiers identifiers = {newIdentifier(), newIdentifier(),
+                                                          newIdentifier()};
+    const QStringList statements =
+        harmless(ProjectStoreSql::rewriteIdentifiers(newName, identifiers), newName);
+    for (const QString& statement : statements)
+        query.exec(statement);
+    query.clear();
+    database.commit();
+    database.close();
+    return true;
+}
+
+void writeNewName(const QString& file, const QString& newName)
+{
+    CRkDataBase database(file);
+    if (!database.open())
+        return;
+    QSqlQuery query = database.exec(ProjectStoreSql::selectVersion());
+    const QString version =
+        query.next() ? QString::number(qint64(query.value(0).toInt()) + 1) : QString();
+    query.finish();
+    const QString now = QDateTime::currentDateTime().toString(DateTimeSFormat);
+    const QStringList statements =
+        harmless(ProjectStoreSql::updateRenamed(newName, version, now), newName);
+    for (const QString& statement : statements)
+        database.exec(statement);
+    database.close();
+}
+
+} // namespace
+
+QString prepare(const QString& name)
+{
+    const Place place = placeBelow(root(), name, ProjectSuffix);
+    makeFolder(place.folder);
+    return place.file;
+}
+
+QString copy(const QString& projectFile, const QString& newName)
+{
+    const Place place = placeBelow(root() + QLatin1Char('/'), newName, QStringLiteral(".proj"));
+    if (!isBelowRoot(place.folder))
+        return {};
+    makeFolder(place.folder);
+    if (!QFile::copy(projectFile, place.file)) {
+        removeEmptyFolders(place.folder);
+        return {};
+    }
+    return rewriteIdentifiers(place.file, newName) ? place.file : QString();
+}
+
+QString rename(const QString& projectFile, const QString& newName,
+               const std::function<void()>& onFailure)
+{
+    const Place place = placeBelow(root(), newName, QStringLiteral(".proj"));
+    if (!isBelowRoot(place.folder)) {
+        onFailure();
+        return {};
+    }
+    makeFolder(place.folder);
+    if (!QFile::rename(projectFile, place.file)) {
+        onFailure();
+        removeEmptyFolders(place.folder);
+        return {};
+    }
+
+    CRkControl* const control = CRkControl::GetInstance();
+    const QString companion = control->GetFlightMissionFilePath(projectFile);
+    if (QFileInfo::exists(companion)
+        && !QFile::rename(companion, control->GetFlightMissionFilePath(place.file))) {
+        onFailure();
+        QFile::rename(place.file, projectFile);
+        removeEmptyFolders(place.folder);
+        return {};
+    }
+
+    writeNewName(place.file, newName);
+    removeEmptyFolders(QFileInfo(projectFile).path());
+    return place.file;
+}
+
+} // namespace ProjectFiles

@@ -1,0 +1,1021 @@
+// SPDX-FileCopyrightText: 2026 The RkBaseUI developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+
+#include <RkBaseUI/CRkProjectManagerView.h>
+
+#include "ProjectFixture.h"
+#include "support/BoxAnswerer.h"
+#include "support/Brackets.h"
+#include "support/TestSupport.h"
+
+#include <RkAlgorthm/RkAlgorthm.h>
+#include <RkBaseUI/CRkGraphicsProjectImageItem.h>
+#include <RkBaseUI/CRkGraphicsProjectRectItem.h>
+#include <RkBaseUI/CRkGraphicsProjectTextItem.h>
+#include <RkData/RkData.h>
+
+#include <QDateTime>
+#include <QDir>
+#include <QDirIterator>
+#include <QFileInfo>
+#include <QFontMetricsF>
+#include <QGraphicsScene>
+#include <QScrollBar>
+#include <QSignalSpy>
+#include <QSqlDatabase>
+#include <QTest>
+
+#include <memory>
+
+namespace {
+
+using Tile = CRkGraphicsProjectRectItem;
+
+const QString inUseText = QStringLiteral(
+    "The action can't be completed because the file is open in other application or project name "
+    "has been exist.");
+
+QList<Tile*> tilesOf(const CRkProjectManagerView& view)
+{
+    QList<Tile*> tiles;
+    const QList<QGraphicsItem*> items = view.scene()->items(Qt::AscendingOrder);
+    for (QGraphicsItem* item : items) {
+        if (auto* tile = dynamic_cast<Tile*>(item))
+            tiles.append(tile);
+    }
+    return tiles;
+}
+
+Tile* tileNamed(const CRkProjectManagerView& view, const QString& name)
+{
+    for (Tile* tile : tilesOf(view)) {
+        if (tile->GetProjectName() == name)
+            return tile;
+    }
+    return nullptr;
+}
+
+QStringList sortedNamesOf(const CRkProjectManagerView& view)
+{
+    QStringList names;
+    for (const Tile* tile : tilesOf(view))
+        names.append(tile->GetProjectName());
+    names.sort();
+    return names;
+}
+
+bool select(const CRkProjectManagerView& view, const QString& name)
+{
+    Tile* tile = tileNamed(view, name);
+    if (tile)
+        tile->setSelected(true);
+    return tile;
+}
+
+/// What the user's renaming sends.
+void rename(const CRkProjectManagerView& view, const QString& name, const QString& newName)
+{
+    Tile* tile = tileNamed(view, name);
+    QVERIFY(tile);
+    emit tile->GetTextItem()->editFinished(newName);
+}
+
+/// Every file and folder below the root with the content of the files.
+QMap<QString, QByteArray> content(const QString& root)
+{
+    QMap<QString, QByteArray> entries;
+    QDirIterator entry(root, QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot,
+                       QDirIterator::Subdirectories);
+    while (entry.hasNext()) {
+        const QString path = entry.next();
+        entries.insert(QDir(root).relativeFilePath(path),
+                       entry.fileInfo().isDir() ? QByteArray("folder") : readFile(path));
+    }
+    return entries;
+}
+
+} // namespace
+
+class tst_ProjectOperations : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void init();
+    void cleanup();
+
+    void newProject();
+    void newNamesAreCounted();
+    void filteredTilesCountForNames();
+    void missingFileEndsTheSearchForNames();
+    void newProjectIsScrolledIntoView();
+    void newProjectInAnothersFile();
+
+    void copyNeedsASelection();
+    void copy();
+    void copiesAreCounted();
+    void copyKeepsEverythingElse();
+    void copyConnectionStaysRegistered();
+    void copyOfDoubleSeparator();
+    void copyThatFails_data();
+    void copyThatFails();
+    void copyOntoAnExistingFile();
+    void copyOfAMissingFile();
+    void copyOfANameWithAQuote_data();
+    void copyOfANameWithAQuote();
+    void copyIsScrolledTo();
+
+    void deleteNeedsASelection();
+    void deleteAsksFirst_data();
+    void deleteAsksFirst();
+    void deleteShowsMarkupAsItIs();
+    void deleteEndsEditingFirst_data();
+    void deleteEndsEditingFirst();
+    void deleteKeepsFolderAndCompanion();
+    void deleteTheOnlyProject();
+    void deleteMovesTheOthersUp();
+    void deleteFileThatCannotBeRemoved();
+    void deleteTileOfAnotherView();
+
+    void renameProject();
+    void renameTakesTheCompanionAlong();
+    void renameWritesTheBookkeeping();
+    void renameBlanks();
+    void renameToNothing_data();
+    void renameToNothing();
+    void renameOntoAnotherProject();
+    void renameOntoItself();
+    void renameToAnotherCase();
+    void renameWhenTheCompanionCannotMove();
+    void renameThatCannotBeTakenBack();
+    void renameOfAMissingFile();
+    void renameWithoutASender();
+    void renameToOddNames_data();
+    void renameToOddNames();
+    void renameToANameThatIsAStatement();
+    void renameOutOfTheRoot_data();
+    void renameOutOfTheRoot();
+    void renameOnceOnly();
+
+    void openSelected();
+    void openWithoutSelection();
+
+    void removedRoot();
+    void messagesAreTranslated();
+
+private:
+    std::unique_ptr<TestHome> m_home;
+    std::unique_ptr<BoxAnswerer> m_answers;
+    QString m_root;
+};
+
+void tst_ProjectOperations::init()
+{
+    m_home = std::make_unique<TestHome>();
+    m_home->setCurrentUserId("user-1");
+    m_root = m_home->projectRoot();
+    m_answers = std::make_unique<BoxAnswerer>();
+}
+
+void tst_ProjectOperations::cleanup()
+{
+    m_answers.reset();
+    m_home.reset();
+}
+
+void tst_ProjectOperations::newProject()
+{
+    CRkProjectManagerView view(nullptr);
+    const QDateTime before = QDateTime::currentDateTime();
+    view.slotNewProject();
+    const QString file = m_root + "New Project/New Project.proj";
+    QVERIFY(QFileInfo::exists(file));
+    QCOMPARE(sortedNamesOf(view), QStringList{"New Project"});
+    QCOMPARE(tilesOf(view).first()->GetProjectFilePath(), file);
+    QCOMPARE(readSql(file, "select project_name from " + ProjectTableName),
+             QStringList{"New Project"});
+    QCOMPARE(readSql(file, "select user_id from " + ProjectTableName), QStringList{"user-1"});
+    const QString created = readSql(file, "select created_at from " + ProjectTableName).value(0);
+    const QDateTime time = QDateTime::fromString(created, DateTimeSFormat);
+    QVERIFY(before.secsTo(time) >= -1);
+    QVERIFY(time <= QDateTime::currentDateTime());
+    QVERIFY(readSql(file, "select id from " + SurveyAreaTableName).isEmpty());
+    QVERIFY(m_answers->boxes.isEmpty());
+}
+
+void tst_ProjectOperations::newNamesAreCounted()
+{
+    CRkProjectManagerView view(nullptr);
+    for (int i = 0; i < 3; ++i)
+        view.slotNewProject();
+    QCOMPARE(sortedNamesOf(view), QStringList({"New Project", "New Project_1", "New Project_2"}));
+}
+
+void tst_ProjectOperations::filteredTilesCountForNames()
+{
+    CRkProjectManagerView view(nullptr);
+    view.slotNewProject();
+    view.slotFilterConditionChanged({}, {}, {}, "nothing of that name");
+    view.slotNewProject();
+    QCOMPARE(sortedNamesOf(view), QStringList{"New Project_1"});
+}
+
+void tst_ProjectOperations::missingFileEndsTheSearchForNames()
+{
+    CRkProjectManagerView view(nullptr);
+    view.slotNewProject();
+    view.slotNewProject();
+    // What stands behind a missing file is not looked at.
+    QVERIFY(QFile::remove(m_root + "New Project/New Project.proj"));
+    view.slotNewProject();
+    QVERIFY(QFileInfo::exists(m_root + "New Project/New Project.proj"));
+    QCOMPARE(sortedNamesOf(view), QStringList({"New Project", "New Project", "New Project_1"}));
+}
+
+void tst_ProjectOperations::newProjectIsScrolledIntoView()
+{
+    CRkProjectManagerView view(nullptr);
+    view.resize(220, 300);
+    view.show();
+    for (int i = 0; i < 5; ++i) {
+        view.slotNewProject();
+        QCOMPARE(view.verticalScrollBar()->value(), view.verticalScrollBar()->maximum());
+    }
+    QVERIFY(view.verticalScrollBar()->maximum() > 0);
+}
+
+void tst_ProjectOperations::newProjectInAnothersFile()
+{
+    // The other user's project has no tile here, so its name counts as free.
+    ProjectFixture other{"New Project"};
+    other.userId = "user-2";
+    const QString file = other.write(m_root);
+    QVERIFY(!file.isEmpty());
+    CRkProjectManagerView view(nullptr);
+    view.slotNewProject();
+    QCOMPARE(sortedNamesOf(view), QStringList{"New Project"});
+    QCOMPARE(readSql(file, "select user_id from " + ProjectTableName + " order by user_id"),
+             QStringList({"user-1", "user-2"}));
+}
+
+void tst_ProjectOperations::copyNeedsASelection()
+{
+    ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    QSignalSpy copied(&view, &CRkProjectManagerView::projectCopied);
+    view.slotCopyProject();
+    QCOMPARE(m_answers->boxes.size(), 1);
+    const ShownBox& box = m_answers->boxes.first();
+    QCOMPARE(box.title, QString("Copy Project"));
+    QCOMPARE(box.text, QString("Please select a project to copy."));
+    QCOMPARE(box.icon, QPixmap(":/images/Normal/Exclamation_mark.png").toImage());
+    QVERIFY(!box.icon.isNull());
+    QVERIFY(box.isCancelHidden);
+    QVERIFY(box.isModalWindow);
+    QCOMPARE(copied.count(), 0);
+    QCOMPARE(sortedNamesOf(view), QStringList{"Hill"});
+}
+
+void tst_ProjectOperations::copy()
+{
+    ProjectFixture fixture{"Hill"};
+    fixture.outlines << squareAround(30, 104) << squareAround(31, 105) << squareAround(32, 106);
+    const QString source = fixture.write(m_root);
+    QVERIFY(runSql(source,
+                   {"INSERT INTO " + MissionTableName
+                        + " (id,flight_task_guid,survey_block_id) VALUES ('m1','t1','a0')",
+                    "INSERT INTO " + MissionTableName
+                        + " (id,flight_task_guid,survey_block_id) VALUES ('m2','t2','a1')"}));
+    const QByteArray before = readFile(source);
+    CRkProjectManagerView view(nullptr);
+    QSignalSpy copied(&view, &CRkProjectManagerView::projectCopied);
+    QVERIFY(select(view, "Hill"));
+    view.slotCopyProject();
+    QCOMPARE(copied.count(), 1);
+    QCOMPARE(sortedNamesOf(view), QStringList({"Hill", "copy of Hill"}));
+    QCOMPARE(readFile(source), before);
+
+    const QString file = m_root + "copy of Hill/copy of Hill.proj";
+    QCOMPARE(readSql(file, "select project_name from " + ProjectTableName),
+             QStringList{"copy of Hill"});
+    const QString id = readSql(file, "select id from " + ProjectTableName).value(0);
+    QVERIFY(!id.isEmpty() && id != fixture.id);
+    QCOMPARE(readSql(file, "select project_id from " + SurveyAreaTableName),
+             QStringList({id, id, id}));
+    const QString area = readSql(file, "select id from " + SurveyAreaTableName).value(0);
+    QVERIFY(!area.isEmpty() && area != id);
+    QCOMPARE(readSql(file, "select id from " + SurveyAreaTableName),
+             QStringList({area, area, area}));
+    QCOMPARE(readSql(file, "select survey_area_guid from " + SurveyAreaTableName),
+             QStringList({area, area, area}));
+    QCOMPARE(readSql(file, "select survey_block_id from " + MissionTableName),
+             QStringList({area, area}));
+    const QString mission = readSql(file, "select id from " + MissionTableName).value(0);
+    QVERIFY(!mission.isEmpty() && mission != area && mission != id);
+    QCOMPARE(readSql(file, "select id from " + MissionTableName), QStringList({mission, mission}));
+    QCOMPARE(readSql(file, "select flight_task_guid from " + MissionTableName),
+             QStringList({"t1", "t2"}));
+    QVERIFY(m_answers->boxes.isEmpty());
+}
+
+void tst_ProjectOperations::copiesAreCounted()
+{
+    ProjectFixture{"A"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    QVERIFY(select(view, "A"));
+    view.slotCopyProject();
+    view.slotCopyProject();
+    QCOMPARE(sortedNamesOf(view), QStringList({"A", "copy of A", "copy of A_1"}));
+    QVERIFY(QFileInfo::exists(m_root + "copy of A_1/copy of A_1.proj"));
+}
+
+void tst_ProjectOperations::copyKeepsEverythingElse()
+{
+    ProjectFixture fixture{"Hill"};
+    fixture.imageData = thumbnailText(Qt::darkGreen);
+    const QString source = fixture.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    QVERIFY(select(view, "Hill"));
+    view.slotCopyProject();
+    const QString file = m_root + "copy of Hill/copy of Hill.proj";
+    for (const char* column :
+         {"user_id", "created_at", "updated_at", "version", "software_version", "image_data"}) {
+        const QString statement = QString("select %1 from ").arg(column) + ProjectTableName;
+        QVERIFY(!readSql(source, statement).isEmpty());
+        QCOMPARE(readSql(file, statement), readSql(source, statement));
+    }
+}
+
+void tst_ProjectOperations::copyConnectionStaysRegistered()
+{
+    ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    QVERIFY(select(view, "Hill"));
+    const QStringList before = QSqlDatabase::connectionNames();
+    view.slotCopyProject();
+    QStringList added = QSqlDatabase::connectionNames();
+    for (const QString& name : before)
+        added.removeOne(name);
+    QCOMPARE(added.size(), 1);
+    QVERIFY(!QSqlDatabase::database(added.first(), false).isOpen());
+    QSqlDatabase::removeDatabase(added.first());
+}
+
+void tst_ProjectOperations::copyOfDoubleSeparator()
+{
+    ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    QVERIFY(select(view, "Hill"));
+    view.slotCopyProject();
+    QCOMPARE(tileNamed(view, "copy of Hill")->GetProjectFilePath(),
+             m_root + "/copy of Hill/copy of Hill.proj");
+}
+
+void tst_ProjectOperations::copyThatFails_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("slash") << "a/b";
+    QTest::newRow("out of the root") << "x/../../../outside";
+    QTest::newRow("name of 255 bytes") << QString(255, 'n');
+}
+
+void tst_ProjectOperations::copyThatFails()
+{
+    QFETCH(QString, name);
+    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    QVERIFY(runSql(file, {"UPDATE " + ProjectTableName + " SET project_name='" + name + "'"}));
+    const auto before = content(m_home->path());
+    CRkProjectManagerView view(nullptr);
+    QSignalSpy copied(&view, &CRkProjectManagerView::projectCopied);
+    QVERIFY(select(view, name));
+    view.slotCopyProject();
+    QCOMPARE(copied.count(), 0);
+    QCOMPARE(tilesOf(view).size(), 1);
+    QCOMPARE(content(m_home->path()), before);
+    QVERIFY(m_answers->boxes.isEmpty());
+}
+
+void tst_ProjectOperations::copyOntoAnExistingFile()
+{
+    // The other user's project has no tile here, so its name counts as free.
+    ProjectFixture{"Hill"}.write(m_root);
+    ProjectFixture other{"copy of Hill"};
+    other.userId = "user-2";
+    QVERIFY(!other.write(m_root).isEmpty());
+    const auto before = content(m_root);
+    CRkProjectManagerView view(nullptr);
+    QSignalSpy copied(&view, &CRkProjectManagerView::projectCopied);
+    QVERIFY(select(view, "Hill"));
+    view.slotCopyProject();
+    QCOMPARE(copied.count(), 0);
+    QCOMPARE(content(m_root), before);
+    QVERIFY(m_answers->boxes.isEmpty());
+}
+
+void tst_ProjectOperations::copyOfAMissingFile()
+{
+    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    QSignalSpy copied(&view, &CRkProjectManagerView::projectCopied);
+    QVERIFY(select(view, "Hill"));
+    QVERIFY(QFile::remove(file));
+    view.slotCopyProject();
+    QCOMPARE(copied.count(), 0);
+    QCOMPARE(content(m_root).keys(), QStringList{"Hill"});
+    QCOMPARE(sortedNamesOf(view), QStringList{"Hill"});
+    QVERIFY(m_answers->boxes.isEmpty());
+}
+
+void tst_ProjectOperations::copyOfANameWithAQuote_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::addColumn<QString>("nameInCopy");
+    QTest::newRow("quote") << "O'Hara"
+                           << "O'Hara";
+    QTest::newRow("two quotes") << "O''Hara"
+                                << "copy of O'Hara";
+    QTest::newRow("statement") << "x', user_id='nobody"
+                               << "x', user_id='nobody";
+}
+
+void tst_ProjectOperations::copyOfANameWithAQuote()
+{
+    QFETCH(QString, name);
+    const QString source = ProjectFixture{"Hill"}.write(m_root);
+    QVERIFY(runSql(source,
+                   {"UPDATE " + ProjectTableName + " SET project_name='"
+                    + QString(name).replace("'", "''") + "'"}));
+    CRkProjectManagerView view(nullptr);
+    QVERIFY(select(view, name));
+    view.slotCopyProject();
+    QCOMPARE(tilesOf(view).size(), 2);
+    const QString file = m_root + "copy of " + name + "/copy of " + name + ".proj";
+    QTEST(readSql(file, "select project_name from " + ProjectTableName).value(0), "nameInCopy");
+    QCOMPARE(readSql(file, "select user_id from " + ProjectTableName), QStringList{"user-1"});
+    QVERIFY(readSql(file, "select id from " + ProjectTableName)
+            != readSql(source, "select id from " + ProjectTableName));
+}
+
+void tst_ProjectOperations::copyIsScrolledTo()
+{
+    for (const char* name : {"A", "B", "C", "D"})
+        ProjectFixture{name}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    view.resize(220, 300);
+    view.show();
+    QVERIFY(select(view, "A"));
+    view.slotCopyProject();
+    QVERIFY(view.verticalScrollBar()->maximum() > 0);
+    QCOMPARE(view.verticalScrollBar()->value(), view.verticalScrollBar()->maximum());
+}
+
+void tst_ProjectOperations::deleteNeedsASelection()
+{
+    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    view.slotDeleteProject();
+    QCOMPARE(m_answers->boxes.size(), 1);
+    QCOMPARE(m_answers->boxes.first().title, QString("Delete Project"));
+    QCOMPARE(m_answers->boxes.first().text, QString("Please select a project to delete."));
+    QVERIFY(m_answers->boxes.first().isCancelHidden);
+    QVERIFY(QFileInfo::exists(file));
+}
+
+void tst_ProjectOperations::deleteAsksFirst_data()
+{
+    QTest::addColumn<QString>("button");
+    QTest::addColumn<bool>("isDeleted");
+    QTest::newRow("OK") << "m_pBtnOK" << true;
+    QTest::newRow("Cancel") << "m_pBtnCancel" << false;
+    QTest::newRow("close") << "m_pBtnClose" << false;
+}
+
+void tst_ProjectOperations::deleteAsksFirst()
+{
+    QFETCH(QString, button);
+    QFETCH(bool, isDeleted);
+    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    QSignalSpy deleted(&view, &CRkProjectManagerView::projectDeleted);
+    m_answers->button = button;
+    QVERIFY(select(view, "Hill"));
+    view.slotDeleteProject();
+    QCOMPARE(m_answers->boxes.size(), 1);
+    const ShownBox& box = m_answers->boxes.first();
+    QCOMPARE(box.title, QString("Delete Project"));
+    QCOMPARE(box.text, QString("confirm delete \"Hill\"?"));
+    QVERIFY(!box.isCancelHidden);
+    QVERIFY(box.isModalWindow);
+    QCOMPARE(QFileInfo::exists(file), !isDeleted);
+    QCOMPARE(tilesOf(view).isEmpty(), isDeleted);
+    QCOMPARE(deleted.count(), 0);
+}
+
+void tst_ProjectOperations::deleteShowsMarkupAsItIs()
+{
+    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    const QString name = "<b>Hill</b>";
+    QVERIFY(runSql(file, {"UPDATE " + ProjectTableName + " SET project_name='" + name + "'"}));
+    CRkProjectManagerView view(nullptr);
+    QVERIFY(select(view, name));
+    view.slotDeleteProject();
+    QCOMPARE(m_answers->boxes.size(), 1);
+    QCOMPARE(m_answers->boxes.first().text, QString("confirm delete \"<b>Hill</b>\"?"));
+    QCOMPARE(m_answers->boxes.first().textFormat, Qt::PlainText);
+}
+
+void tst_ProjectOperations::deleteEndsEditingFirst_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<QStringList>("texts");
+    QTest::newRow("another name") << "Vale" << QStringList{"confirm delete \"Vale\"?"};
+    QTest::newRow("nothing") << ""
+                             << QStringList(
+                                    {"You must type a project name.", "confirm delete \"Hill\"?"});
+}
+
+void tst_ProjectOperations::deleteEndsEditingFirst()
+{
+    QFETCH(QString, typed);
+    ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    view.show();
+    QApplication::setActiveWindow(&view);
+    view.setFocus();
+    QTRY_VERIFY(view.scene()->isActive());
+    QVERIFY(select(view, "Hill"));
+    CRkGraphicsProjectTextItem* caption = tileNamed(view, "Hill")->GetTextItem();
+    caption->setFocus();
+    QTRY_VERIFY(caption->hasFocus());
+    caption->setPlainText(typed);
+    view.slotDeleteProject();
+    QStringList texts;
+    for (const ShownBox& box : m_answers->boxes)
+        texts.append(box.text);
+    QTEST(texts, "texts");
+    QVERIFY(tilesOf(view).isEmpty());
+    const QStringList entries = content(m_root).keys();
+    QVERIFY2(entries.filter(".proj").isEmpty(), qPrintable(entries.join('\n')));
+}
+
+void tst_ProjectOperations::deleteKeepsFolderAndCompanion()
+{
+    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    const QString companion = CRkControl::GetInstance()->GetFlightMissionFilePath(file);
+    QVERIFY(writeFile(companion, "flights"));
+    CRkProjectManagerView view(nullptr);
+    QVERIFY(select(view, "Hill"));
+    view.slotDeleteProject();
+    QCOMPARE(content(m_root).keys(), QStringList({"Hill", "Hill/Hill_flight.db"}));
+    QCOMPARE(readFile(companion), QByteArray("flights"));
+}
+
+void tst_ProjectOperations::deleteTheOnlyProject()
+{
+    ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    const QPointer<Tile> tile = tileNamed(view, "Hill");
+    QVERIFY(select(view, "Hill"));
+    view.slotDeleteProject();
+    QVERIFY(tilesOf(view).isEmpty());
+    QVERIFY(QFileInfo(m_root + "Hill").isDir());
+    QVERIFY(tile);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!tile);
+    // Nothing of it is left in the lists.
+    view.slotFilterConditionChanged({}, {}, {}, {});
+    QVERIFY(tilesOf(view).isEmpty());
+}
+
+void tst_ProjectOperations::deleteMovesTheOthersUp()
+{
+    for (const char* name : {"A", "B", "C"})
+        ProjectFixture{name}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    view.resize(660, 400);
+    QList<Tile*> tiles = tilesOf(view);
+    QCOMPARE(tiles.size(), 3);
+    tiles[0]->setSelected(true);
+    view.slotDeleteProject();
+    QCOMPARE(tiles[1]->pos(), QPointF(32, 0));
+    QCOMPARE(tiles[2]->pos(), QPointF(242, 0));
+}
+
+void tst_ProjectOperations::deleteFileThatCannotBeRemoved()
+{
+    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    QVERIFY(select(view, "Hill"));
+    QVERIFY(QFile::remove(file)); // Somebody was faster.
+    view.slotDeleteProject();
+    QCOMPARE(m_answers->boxes.size(), 2);
+    const ShownBox& box = m_answers->boxes.last();
+    QCOMPARE(box.title, QString("File In Use"));
+    QCOMPARE(box.text,
+             QString("The action can't be completed because the file is open in other "
+                     "application.Close the file and try again."));
+    QVERIFY(box.isCancelHidden);
+    QVERIFY(box.isModalWindow);
+    QCOMPARE(sortedNamesOf(view), QStringList{"Hill"});
+}
+
+void tst_ProjectOperations::deleteTileOfAnotherView()
+{
+    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    // A host put a tile of its own into the scene.
+    auto* foreign = new Tile;
+    foreign->setRect(0, 0, 200, 180);
+    foreign->setFlag(QGraphicsItem::ItemIsSelectable);
+    foreign->SetProjectFilePath(file);
+    view.scene()->addItem(foreign);
+    foreign->setSelected(true);
+    view.slotDeleteProject();
+    QVERIFY(m_answers->boxes.isEmpty());
+    QVERIFY(QFileInfo::exists(file));
+}
+
+void tst_ProjectOperations::renameProject()
+{
+    ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    QSignalSpy renamed(&view, &CRkProjectManagerView::projectRenamed);
+    Tile* tile = tileNamed(view, "Hill");
+    rename(view, "Hill", "Dale");
+    QCOMPARE(renamed.count(), 1);
+    QVERIFY(m_answers->boxes.isEmpty());
+    const QString file = m_root + "Dale/Dale.proj";
+    QCOMPARE(content(m_root).keys(), QStringList({"Dale", "Dale/Dale.proj"}));
+    QCOMPARE(tile->GetProjectName(), QString("Dale"));
+    QCOMPARE(tile->GetProjectFilePath(), file);
+    QCOMPARE(tile->GetImageItem()->toolTip(), QString("Dale"));
+    const CRkGraphicsProjectTextItem* caption = tile->GetTextItem();
+    QCOMPARE(caption->GetPrjName(), QString("Dale"));
+    QCOMPARE(caption->toPlainText(), QString("Dale"));
+    QVERIFY(caption->toolTip().startsWith("Name:Dale\n"));
+    QCOMPARE(sortedNamesOf(CRkProjectManagerView(nullptr)), QStringList{"Dale"});
+}
+
+void tst_ProjectOperations::renameTakesTheCompanionAlong()
+{
+    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    QVERIFY(writeFile(CRkControl::GetInstance()->GetFlightMissionFilePath(file), "flights"));
+    QVERIFY(writeFile(m_root + "Hill/notes.txt", "notes"));
+    CRkProjectManagerView view(nullptr);
+    rename(view, "Hill", "Dale");
+    QCOMPARE(
+        content(m_root).keys(),
+        QStringList({"Dale", "Dale/Dale.proj", "Dale/Dale_flight.db", "Hill", "Hill/notes.txt"}));
+    QCOMPARE(readFile(m_root + "Dale/Dale_flight.db"), QByteArray("flights"));
+}
+
+void tst_ProjectOperations::renameWritesTheBookkeeping()
+{
+    const ProjectFixture fixture{"Hill"};
+    const QString old = fixture.write(m_root);
+    QVERIFY(runSql(old, {"UPDATE " + ProjectTableName + " SET version='41'"}));
+    CRkProjectManagerView view(nullptr);
+    rename(view, "Hill", "Dale");
+    const QString file = m_root + "Dale/Dale.proj";
+    QCOMPARE(readSql(file, "select project_name from " + ProjectTableName), QStringList{"Dale"});
+    QCOMPARE(readSql(file, "select version from " + ProjectTableName), QStringList{"42"});
+    QCOMPARE(readSql(file, "select id from " + ProjectTableName), QStringList{fixture.id});
+    // The statement with the time lacks its quotes and fails.
+    QCOMPARE(readSql(file, "select updated_at from " + ProjectTableName),
+             QStringList{fixture.modified});
+    rename(view, "Dale", "Vale");
+    QCOMPARE(readSql(m_root + "Vale/Vale.proj", "select version from " + ProjectTableName),
+             QStringList{"43"});
+}
+
+void tst_ProjectOperations::renameBlanks()
+{
+    ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    rename(view, "Hill", "  Dale of A  ");
+    QCOMPARE(content(m_root).keys(), QStringList({"  Dale of A", "  Dale of A/  Dale of A.proj"}));
+    QCOMPARE(sortedNamesOf(view), QStringList{"  Dale of A"});
+}
+
+void tst_ProjectOperations::renameToNothing_data()
+{
+    QTest::addColumn<QString>("newName");
+    QTest::newRow("empty") << QString();
+    QTest::newRow("blank") << " ";
+    QTest::newRow("blanks") << "    ";
+}
+
+void tst_ProjectOperations::renameToNothing()
+{
+    QFETCH(QString, newName);
+    const QString name = QString("Hill ").repeated(20).trimmed();
+    ProjectFixture{name}.write(m_root);
+    const auto before = content(m_root);
+    CRkProjectManagerView view(nullptr);
+    QSignalSpy renamed(&view, &CRkProjectManagerView::projectRenamed);
+    Tile* tile = tileNamed(view, name);
+    rename(view, name, newName);
+    QCOMPARE(m_answers->boxes.size(), 1);
+    const ShownBox& box = m_answers->boxes.first();
+    QCOMPARE(box.title, QString("Rename Project"));
+    QCOMPARE(box.text, QString("You must type a project name."));
+    QVERIFY(box.isCancelHidden);
+    QVERIFY(box.isModalWindow);
+    QCOMPARE(tile->toolTip(), name);
+    const CRkGraphicsProjectTextItem* caption = tile->GetTextItem();
+    const QString elided = QFontMetricsF(caption->font()).elidedText(name, Qt::ElideRight, 140);
+    QVERIFY(elided != name);
+    QCOMPARE(caption->toPlainText(), elided);
+    QCOMPARE(caption->GetPrjName(), elided);
+    QCOMPARE(tile->GetProjectName(), name);
+    QCOMPARE(renamed.count(), 0);
+    QCOMPARE(content(m_root), before);
+}
+
+void tst_ProjectOperations::renameOntoAnotherProject()
+{
+    ProjectFixture{"Hill"}.write(m_root);
+    ProjectFixture{"Dale"}.write(m_root);
+    const auto before = content(m_root);
+    CRkProjectManagerView view(nullptr);
+    QSignalSpy renamed(&view, &CRkProjectManagerView::projectRenamed);
+    Tile* tile = tileNamed(view, "Hill");
+    tile->GetTextItem()->SetPrjName("Dale"); // As the caption does before it sends its signal.
+    rename(view, "Hill", "Dale");
+    QCOMPARE(m_answers->boxes.size(), 1);
+    const ShownBox& box = m_answers->boxes.first();
+    QCOMPARE(box.title, QString("Rename Project"));
+    QCOMPARE(box.text, inUseText);
+    QVERIFY(box.isCancelHidden);
+    QVERIFY(box.isModalWindow);
+    QCOMPARE(renamed.count(), 0);
+    QCOMPARE(content(m_root), before);
+    QCOMPARE(tile->GetTextItem()->GetPrjName(), QString("Hill"));
+    QCOMPARE(tile->GetTextItem()->toPlainText(), QString("Hill"));
+    QVERIFY(tile->GetTextItem()->toolTip().startsWith("Name:Hill\n"));
+}
+
+void tst_ProjectOperations::renameOntoItself()
+{
+    ProjectFixture{"Hill"}.write(m_root);
+    const auto before = content(m_root);
+    CRkProjectManagerView view(nullptr);
+    rename(view, "Hill", "Hill");
+    QCOMPARE(m_answers->boxes.size(), 1);
+    QCOMPARE(m_answers->boxes.first().text, inUseText);
+    QCOMPARE(content(m_root), before);
+}
+
+void tst_ProjectOperations::renameToAnotherCase()
+{
+    ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    rename(view, "Hill", "hill");
+    QCOMPARE(sortedNamesOf(view), QStringList{"hill"});
+    QCOMPARE(sortedNamesOf(CRkProjectManagerView(nullptr)), QStringList{"hill"});
+}
+
+void tst_ProjectOperations::renameWhenTheCompanionCannotMove()
+{
+    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    QVERIFY(writeFile(CRkControl::GetInstance()->GetFlightMissionFilePath(file), "flights"));
+    QVERIFY(writeFile(m_root + "Dale/Dale_flight.db", "flights of a deleted project"));
+    const auto before = content(m_root);
+    CRkProjectManagerView view(nullptr);
+    QSignalSpy renamed(&view, &CRkProjectManagerView::projectRenamed);
+    rename(view, "Hill", "Dale");
+    QCOMPARE(m_answers->boxes.size(), 1);
+    QCOMPARE(m_answers->boxes.first().title, QString("Rename Project"));
+    QCOMPARE(m_answers->boxes.first().text, inUseText);
+    QCOMPARE(content(m_root), before);
+    QCOMPARE(renamed.count(), 0);
+    QCOMPARE(tileNamed(view, "Hill")->GetProjectFilePath(), file);
+}
+
+void tst_ProjectOperations::renameThatCannotBeTakenBack()
+{
+    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    const QByteArray project = readFile(file);
+    QVERIFY(writeFile(CRkControl::GetInstance()->GetFlightMissionFilePath(file), "flights"));
+    QVERIFY(writeFile(m_root + "Dale/Dale_flight.db", "flights of a deleted project"));
+    CRkProjectManagerView view(nullptr);
+    QSignalSpy renamed(&view, &CRkProjectManagerView::projectRenamed);
+    // While the user reads the message, another program takes the place of the project.
+    bool isPlaceTaken = false;
+    m_answers->beforeAnswer = [&] { isPlaceTaken = writeFile(file, "another program's"); };
+    rename(view, "Hill", "Dale");
+    QVERIFY(isPlaceTaken);
+    QCOMPARE(m_answers->boxes.size(), 1);
+    QCOMPARE(renamed.count(), 0);
+    const QMap<QString, QByteArray> expected = {
+        {"Dale", "folder"},
+        {"Dale/Dale.proj", project},
+        {"Dale/Dale_flight.db", "flights of a deleted project"},
+        {"Hill", "folder"},
+        {"Hill/Hill.proj", "another program's"},
+        {"Hill/Hill_flight.db", "flights"},
+    };
+    QCOMPARE(content(m_root), expected);
+}
+
+void tst_ProjectOperations::renameOfAMissingFile()
+{
+    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    QVERIFY(QFile::remove(file));
+    rename(view, "Hill", "Dale");
+    QVERIFY(m_answers->boxes.isEmpty());
+    QCOMPARE(content(m_root).keys(), QStringList{"Hill"});
+    QCOMPARE(sortedNamesOf(view), QStringList{"Hill"});
+}
+
+void tst_ProjectOperations::renameWithoutASender()
+{
+    ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    QVERIFY(select(view, "Hill"));
+    view.slotRenameProjectItem("Dale");
+    view.slotRenameProjectItem(QString());
+    QVERIFY(m_answers->boxes.isEmpty());
+    QCOMPARE(sortedNamesOf(view), QStringList{"Hill"});
+}
+
+void tst_ProjectOperations::renameToOddNames_data()
+{
+    QTest::addColumn<QString>("newName");
+    QTest::addColumn<bool>("succeeds");
+    QTest::newRow("quote") << "O'Hara" << true;
+    QTest::newRow("double quote") << "\"Hill\"" << true;
+    QTest::newRow("per cent") << "100%" << true;
+    QTest::newRow("marker") << "Hill %1 %2" << true;
+    QTest::newRow("newline") << "Hill\nDale" << true;
+    QTest::newRow("emoji") << QString::fromUtf8("山丘 🛩") << true;
+    QTest::newRow("backslash") << "Hill\\Dale" << true;
+    QTest::newRow("dots") << "v1.2.final" << true;
+    QTest::newRow("leading dot") << ".Hill" << true;
+    QTest::newRow("markup") << "<b>Hill</b>" << false;
+    QTest::newRow("slash") << "Hill/Dale" << false;
+    QTest::newRow("leading slash") << "/Dale" << true;
+    QTest::newRow("255 bytes") << QString(255, 'n') << false;
+    QTest::newRow("longer than any path") << QString(5000, 'n') << false;
+}
+
+void tst_ProjectOperations::renameToOddNames()
+{
+    QFETCH(QString, newName);
+    QFETCH(bool, succeeds);
+    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    const auto before = content(m_home->path());
+    CRkProjectManagerView view(nullptr);
+    Tile* tile = tileNamed(view, "Hill");
+    rename(view, "Hill", newName);
+    QCOMPARE(m_answers->boxes.size(), succeeds ? 0 : 1);
+    if (!succeeds) {
+        QCOMPARE(m_answers->boxes.first().text, inUseText);
+        QCOMPARE(content(m_home->path()), before);
+        return;
+    }
+    QVERIFY(!QFileInfo::exists(file));
+    const QString renamed = m_root + newName + '/' + newName + ".proj";
+    QCOMPARE(tile->GetProjectFilePath(), renamed);
+    QCOMPARE(readSql(renamed, "select count(*) from " + ProjectTableName), QStringList{"1"});
+}
+
+void tst_ProjectOperations::renameToANameThatIsAStatement()
+{
+    const ProjectFixture fixture{"Hill"};
+    fixture.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    const QString name = "x', user_id='nobody";
+    rename(view, "Hill", name);
+    const QString file = m_root + name + '/' + name + ".proj";
+    QCOMPARE(tileNamed(view, name)->GetProjectFilePath(), file);
+    QCOMPARE(readSql(file, "select user_id from " + ProjectTableName), QStringList{"user-1"});
+    QCOMPARE(readSql(file, "select project_name from " + ProjectTableName), QStringList{"Hill"});
+    QCOMPARE(readSql(file, "select version from " + ProjectTableName), QStringList{"2"});
+}
+
+void tst_ProjectOperations::renameOutOfTheRoot_data()
+{
+    QTest::addColumn<QString>("newName");
+    QTest::newRow("parent") << "..";
+    QTest::newRow("root itself") << ".";
+    QTest::newRow("sibling of the root") << "../outside";
+    QTest::newRow("through a folder") << "a/../../outside";
+    QTest::newRow("back to the root") << "a/..";
+}
+
+void tst_ProjectOperations::renameOutOfTheRoot()
+{
+    QFETCH(QString, newName);
+    ProjectFixture{"Hill"}.write(m_root);
+    const auto before = content(m_home->path());
+    CRkProjectManagerView view(nullptr);
+    rename(view, "Hill", newName);
+    QCOMPARE(m_answers->boxes.size(), 1);
+    QCOMPARE(m_answers->boxes.first().text, inUseText);
+    QCOMPARE(content(m_home->path()), before);
+    QCOMPARE(sortedNamesOf(view), QStringList{"Hill"});
+}
+
+void tst_ProjectOperations::renameOnceOnly()
+{
+    ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    view.show();
+    QApplication::setActiveWindow(&view);
+    view.setFocus();
+    QSignalSpy renamed(&view, &CRkProjectManagerView::projectRenamed);
+    CRkGraphicsProjectTextItem* caption = tileNamed(view, "Hill")->GetTextItem();
+    QTRY_VERIFY(view.scene()->isActive());
+    caption->setFocus();
+    QTRY_VERIFY(caption->hasFocus());
+    caption->setPlainText("Dale ");
+    caption->clearFocus();
+    QCOMPARE(renamed.count(), 1);
+    QCOMPARE(sortedNamesOf(view), QStringList{"Dale"});
+    QVERIFY(m_answers->boxes.isEmpty());
+}
+
+void tst_ProjectOperations::openSelected()
+{
+    const QString file = ProjectFixture{"Hill.v2"}.write(m_root);
+    ProjectFixture{"Dale"}.write(m_root);
+    QVERIFY(runSql(file, {"UPDATE " + ProjectTableName + " SET project_name='shown'"}));
+    CRkProjectManagerView view(nullptr);
+    QStringList events;
+    connect(&view, &CRkProjectManagerView::projectOpened, this, [&](const QString& path) {
+        events.append(path);
+        events.append(view.GetProjectName()); // The name is there before the signal.
+    });
+    QVERIFY(select(view, "shown"));
+    view.slotOpenProject();
+    QCOMPARE(events, QStringList({file, "Hill.v2"}));
+}
+
+void tst_ProjectOperations::openWithoutSelection()
+{
+    ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    QSignalSpy opened(&view, &CRkProjectManagerView::projectOpened);
+    view.slotOpenProject();
+    QCOMPARE(opened.count(), 0);
+    QCOMPARE(view.GetProjectName(), QString());
+    QVERIFY(m_answers->boxes.isEmpty());
+}
+
+void tst_ProjectOperations::removedRoot()
+{
+    ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    QSignalSpy copied(&view, &CRkProjectManagerView::projectCopied);
+    QSignalSpy renamed(&view, &CRkProjectManagerView::projectRenamed);
+    QVERIFY(select(view, "Hill"));
+    QVERIFY(QDir(m_root).removeRecursively());
+
+    rename(view, "Hill", "Dale");
+    QVERIFY(m_answers->boxes.isEmpty());
+    view.slotCopyProject();
+    QVERIFY(m_answers->boxes.isEmpty());
+    view.slotDeleteProject();
+    QCOMPARE(m_answers->boxes.size(), 2);
+    QCOMPARE(m_answers->boxes.last().title, QString("File In Use"));
+    QCOMPARE(renamed.count() + copied.count(), 0);
+    QCOMPARE(content(m_root).keys(), QStringList());
+    QCOMPARE(sortedNamesOf(view), QStringList{"Hill"});
+
+    view.slotNewProject();
+    QCOMPARE(sortedNamesOf(view), QStringList({"Hill", "New Project"}));
+    QVERIFY(QFileInfo::exists(m_root + "New Project/New Project.proj"));
+}
+
+void tst_ProjectOperations::messagesAreTranslated()
+{
+    Brackets brackets("CRkProjectManagerView");
+    QVERIFY(QCoreApplication::installTranslator(&brackets));
+    ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    view.slotCopyProject();
+    view.slotDeleteProject();
+    rename(view, "Hill", " ");
+    rename(view, "Hill", "Hill");
+    QVERIFY(select(view, "Hill"));
+    m_answers->button = "m_pBtnCancel";
+    view.slotDeleteProject();
+    QStringList texts;
+    for (const ShownBox& box : m_answers->boxes)
+        texts.append(box.title + ' ' + box.text);
+    QCOMPARE(texts,
+             QStringList({"[Copy Project] [Please select a project to copy.]",
+                          "[Delete Project] [Please select a project to delete.]",
+                          "[Rename Project] [You must type a project name.]",
+                          "[Rename Project] [" + inUseText + "]",
+                          "[Delete Project] [confirm delete \"]Hill[\"?]"}));
+    view.slotCopyProject();
+    QCOMPARE(sortedNamesOf(view), QStringList({"Hill", "[copy of ]Hill"}));
+    view.slotNewProject();
+    QVERIFY(tileNamed(view, "[New Project]"));
+}
+
+QTEST_MAIN(tst_ProjectOperations)
+#include "tst_ProjectOperations.moc"
