@@ -25,6 +25,7 @@
 #include <QFileInfo>
 #include <QGraphicsScene>
 #include <QMouseEvent>
+#include <QPointer>
 #include <QScrollBar>
 
 #include <algorithm>
@@ -127,8 +128,10 @@ void CRkProjectManagerView::slotDeleteProject()
     }
     if (!m_tiles.contains(tile))
         return;
+    const QPointer<CRkProjectManagerView> alive(this);
     if (!WarningBox::confirm(tr("Delete Project"),
-                             tr("confirm delete \"") + tile->GetProjectName() + tr("\"?")))
+                             tr("confirm delete \"") + tile->GetProjectName() + tr("\"?"))
+        || !alive)
         return;
     if (!QFile::remove(tile->GetProjectFilePath())) {
         WarningBox::show(tr("File In Use"),
@@ -186,8 +189,12 @@ void CRkProjectManagerView::slotRenameProjectItem(const QString& newName)
     if (!tile)
         return;
 
+    // The view may go while a message is up.
+    const QPointer<CRkProjectManagerView> alive(this);
     if (QString(newName).remove(QLatin1Char(' ')).isEmpty()) {
         WarningBox::show(tr("Rename Project"), tr("You must type a project name."));
+        if (!alive)
+            return;
         const QString formerName = baseName(tile);
         tile->setToolTip(formerName);
         caption->SetPlainText(CaptionText::elided(formerName, caption->font()));
@@ -202,6 +209,8 @@ void CRkProjectManagerView::slotRenameProjectItem(const QString& newName)
                          tr("The action can't be completed because the file is open in other "
                             "application or project name has been exist."));
     });
+    if (!alive)
+        return;
     if (file.isEmpty()) {
         caption->SetPrjName(tile->GetProjectName());
         caption->buildDisplayAndToolTip();

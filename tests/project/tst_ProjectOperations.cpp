@@ -96,6 +96,8 @@ QMap<QString, QByteArray> content(const QString& root)
 
 } // namespace
 
+Q_DECLARE_METATYPE(std::function<void(CRkProjectManagerView&)>)
+
 class tst_ProjectOperations : public QObject
 {
     Q_OBJECT
@@ -156,6 +158,9 @@ private slots:
     void renameOutOfTheRoot_data();
     void renameOutOfTheRoot();
     void renameOnceOnly();
+
+    void viewThatGoesDuringAMessage_data();
+    void viewThatGoesDuringAMessage();
 
     void openSelected();
     void openWithoutSelection();
@@ -935,6 +940,39 @@ void tst_ProjectOperations::renameOnceOnly()
     QCOMPARE(renamed.count(), 1);
     QCOMPARE(sortedNamesOf(view), QStringList{"Dale"});
     QVERIFY(m_answers->boxes.isEmpty());
+}
+
+void tst_ProjectOperations::viewThatGoesDuringAMessage_data()
+{
+    QTest::addColumn<std::function<void(CRkProjectManagerView&)>>("action");
+    QTest::addColumn<QStringList>("projects");
+    using View = CRkProjectManagerView;
+    const auto row = [](const char* name, const std::function<void(View&)>& action,
+                        const QStringList& projects) {
+        QTest::newRow(name) << action << projects;
+    };
+    row("copy nothing", [](View& view) { view.slotCopyProject(); }, {"Dale", "Hill"});
+    row("delete nothing", [](View& view) { view.slotDeleteProject(); }, {"Dale", "Hill"});
+    row("delete", [](View& view) {
+        select(view, "Hill");
+        view.slotDeleteProject();
+    }, {"Dale", "Hill"});
+    row("rename to nothing", [](View& view) { rename(view, "Hill", " "); }, {"Dale", "Hill"});
+    row("rename onto another", [](View& view) { rename(view, "Hill", "Dale"); }, {"Dale", "Hill"});
+}
+
+void tst_ProjectOperations::viewThatGoesDuringAMessage()
+{
+    QFETCH(std::function<void(CRkProjectManagerView&)>, action);
+    ProjectFixture{"Hill"}.write(m_root);
+    ProjectFixture{"Dale"}.write(m_root);
+    auto view = std::make_unique<CRkProjectManagerView>(nullptr);
+    m_answers->beforeAnswer = [&view] { view.reset(); };
+    action(*view);
+    QCOMPARE(m_answers->boxes.size(), 1);
+    QVERIFY(!view);
+    m_answers->beforeAnswer = nullptr;
+    QTEST(sortedNamesOf(CRkProjectManagerView(nullptr)), "projects");
 }
 
 void tst_ProjectOperations::openSelected()
