@@ -10,7 +10,7 @@ QPixmap screenPicture(const QString& path)
 {
     const QFileInfo file(path);
     const QString twin = file.path() + QLatin1Char('/') + file.completeBaseName()
-        + QLatin1String("@2x.") + file.suffix();
+        + QStringLiteral("@2x.") + file.suffix();
     if (qGuiApp->devicePixelRatio() <= 1.0 || !QFileInfo::exists(twin))
         return QPixmap(path);
     QPixmap picture(twin);

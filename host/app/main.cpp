@@ -126,7 +126,7 @@ QString complaint(QCommandLineParser& parser, const QStringList& arguments)
     if (!parser.parse(arguments))
         return parser.errorText();
     if (!parser.positionalArguments().isEmpty())
-        return QStringLiteral("Unknown argument \"%1\".").arg(parser.positionalArguments().first());
+        return QStringLiteral("Unknown argument \"%1\".").arg(parser.positionalArguments().constFirst());
     const QString language = parser.value(QStringLiteral("lang"));
     if (parser.isSet(QStringLiteral("lang")) && language != QLatin1String("zh_CN")
         && language != QLatin1String("en"))
