@@ -10,6 +10,9 @@
 #include <RkBaseUI/CRkBaseWidget.h>
 #include <RkBaseUI/CRkBlockManagerTable.h>
 #include <RkBaseUI/CRkBlockManagerWidget.h>
+#include <RkBaseUI/CRkCityDateFilterWidget.h>
+#include <RkBaseUI/CRkCitySelectWidget.h>
+#include <RkBaseUI/CRkDateSelectWidget.h>
 #include <RkBaseUI/CRkGraphicsBlockItem.h>
 #include <RkBaseUI/CRkGraphicsPixmapItem.h>
 #include <RkBaseUI/CRkGraphicsProjectImageItem.h>
@@ -21,12 +24,16 @@
 #include <RkBaseUI/CRkParameterEditPage.h>
 #include <RkBaseUI/CRkProcessDialog.h>
 #include <RkBaseUI/CRkProgressWgt.h>
+#include <RkBaseUI/CRkProjectManagerDialog.h>
 #include <RkBaseUI/CRkProjectManagerView.h>
+#include <RkBaseUI/CRkProjectManagerWidget.h>
 #include <RkBaseUI/CRkSlider.h>
 #include <RkBaseUI/CRkTableDelegate.h>
 #include <RkBaseUI/CRkTipPushButton.h>
 #include <RkBaseUI/FlowLayout.h>
 #include <RkBaseUI/RkCityCategory.h>
+#include <RkBaseUI/RkCitySelectByCity.h>
+#include <RkBaseUI/RkCitySelectByProvince.h>
 #include <RkBaseUI/RkEditorDescriptor.h>
 #include <RkBaseUI/RkHoveredPushButton.h>
 #include <RkBaseUI/SharedHelpers.h>

@@ -55,3 +55,20 @@ function(rk_add_platform_library name)
     rk_public_headers(${name} ${name} ${ARG_HEADERS})
     install(TARGETS ${name} EXPORT RkPlatformTargets COMPONENT RkPlatform)
 endfunction()
+
+# rk_wrap_forms(<variable> <form>...)
+#
+# As qt5_wrap_ui, without the search for slots by their names in every new form: all connections are
+# made in the classes, and the city picker holds dozens of forms.
+function(rk_wrap_forms variable)
+    foreach(form IN LISTS ARGN)
+        get_filename_component(name "${form}" NAME_WE)
+        set(header "${CMAKE_CURRENT_BINARY_DIR}/ui_${name}.h")
+        add_custom_command(OUTPUT "${header}"
+            COMMAND Qt5::uic --no-autoconnection -o "${header}" "${CMAKE_CURRENT_SOURCE_DIR}/${form}"
+            MAIN_DEPENDENCY "${form}" VERBATIM)
+        set_source_files_properties("${header}" PROPERTIES SKIP_AUTOMOC ON)
+        list(APPEND headers "${header}")
+    endforeach()
+    set(${variable} "${headers}" PARENT_SCOPE)
+endfunction()

@@ -110,6 +110,191 @@
     </message>
 </context>
 <context>
+    <name>CRkCityDateFilterWidget</name>
+    <message>
+        <source>City</source>
+        <translation>城市</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Choose a city</source>
+        <translation>选择城市</translation>
+    </message>
+    <message>
+        <source>Choose a date</source>
+        <translation>选择日期</translation>
+    </message>
+</context>
+<context>
+    <name>CRkCitySelectWidget</name>
+    <message>
+        <source>RkCitySelectWidget</source>
+        <translation>选择城市</translation>
+    </message>
+    <message>
+        <source>By Province</source>
+        <translation>按省份</translation>
+    </message>
+    <message>
+        <source>By City</source>
+        <translation>按城市</translation>
+    </message>
+    <message>
+        <source>Part of a place name</source>
+        <translation>地名的一部分</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>current city:</source>
+        <translation>当前城市：</translation>
+    </message>
+    <message>
+        <source>Set default city</source>
+        <translation>设为默认城市</translation>
+    </message>
+    <message>
+        <source>Province</source>
+        <translation>省份</translation>
+    </message>
+    <message>
+        <source>City</source>
+        <translation>城市</translation>
+    </message>
+    <message>
+        <source>Keywords</source>
+        <translation>关键字</translation>
+    </message>
+    <message>
+        <source>input the city name</source>
+        <translation>请输入城市名称</translation>
+    </message>
+    <message>
+        <source>Enter the province name</source>
+        <translation>请输入省份名称</translation>
+    </message>
+    <message>
+        <source>Enter a city name</source>
+        <translation>请输入城市名称</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Beijing</source>
+        <translation>北京</translation>
+    </message>
+    <message>
+        <source>Shanghai</source>
+        <translation>上海</translation>
+    </message>
+    <message>
+        <source>Guangzhou</source>
+        <translation>广州</translation>
+    </message>
+    <message>
+        <source>Shenzhen</source>
+        <translation>深圳</translation>
+    </message>
+    <message>
+        <source>Chengdu</source>
+        <translation>成都</translation>
+    </message>
+    <message>
+        <source>Tianjin</source>
+        <translation>天津</translation>
+    </message>
+    <message>
+        <source>Nanjing</source>
+        <translation>南京</translation>
+    </message>
+    <message>
+        <source>Hangzhou</source>
+        <translation>杭州</translation>
+    </message>
+    <message>
+        <source>Wuhan</source>
+        <translation>武汉</translation>
+    </message>
+    <message>
+        <source>Chongqing</source>
+        <translation>重庆</translation>
+    </message>
+</context>
+<context>
+    <name>CRkDateSelectWidget</name>
+    <message>
+        <source>Yesterday</source>
+        <translation>昨天</translation>
+    </message>
+    <message>
+        <source>Today</source>
+        <translation>今天</translation>
+    </message>
+    <message>
+        <source>All</source>
+        <translation>全部</translation>
+    </message>
+    <message>
+        <source>Last week</source>
+        <translation>最近一周</translation>
+    </message>
+    <message>
+        <source>Two weeks ago</source>
+        <translation>最近两周</translation>
+    </message>
+    <message>
+        <source>Three weeks ago</source>
+        <translation>最近三周</translation>
+    </message>
+    <message>
+        <source>Last month</source>
+        <translation>最近一个月</translation>
+    </message>
+    <message>
+        <source>Time period</source>
+        <translation>时间段</translation>
+    </message>
+    <message>
+        <source>First day</source>
+        <translation>起始日期</translation>
+    </message>
+    <message>
+        <source>To</source>
+        <translation>至</translation>
+    </message>
+    <message>
+        <source>Last day</source>
+        <translation>截止日期</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Calendar</source>
+        <translation>日历</translation>
+    </message>
+    <message>
+        <source>Date</source>
+        <translation>日期</translation>
+    </message>
+    <message>
+        <source>%1 to %2</source>
+        <translation>%1 至 %2</translation>
+    </message>
+</context>
+<context>
     <name>CRkGraphicsProjectTextItem</name>
     <message>
         <source>Name:%1
@@ -178,6 +363,25 @@
     <message>
         <source>loading completed !</source>
         <translation>加载完成！</translation>
+    </message>
+</context>
+<context>
+    <name>CRkProjectManagerDialog</name>
+    <message>
+        <source>Open Project</source>
+        <translation>打开项目</translation>
+    </message>
+    <message>
+        <source>Logo</source>
+        <translation>徽标</translation>
+    </message>
+    <message>
+        <source>Full screen</source>
+        <translation>全屏</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
     </message>
 </context>
 <context>
@@ -253,6 +457,33 @@
     <message>
         <source>The action can&apos;t be completed because the file is open in other application or project name has been exist.</source>
         <translation>操作无法完成，因为文件已在其他程序中打开，或项目名称已存在。</translation>
+    </message>
+</context>
+<context>
+    <name>CRkProjectManagerWidget</name>
+    <message>
+        <source>CRkProjectManagerWidget</source>
+        <translation>CRkProjectManagerWidget</translation>
+    </message>
+    <message>
+        <source>New project</source>
+        <translation>新建项目</translation>
+    </message>
+    <message>
+        <source>Copy the project</source>
+        <translation>复制项目</translation>
+    </message>
+    <message>
+        <source>Delete the project</source>
+        <translation>删除项目</translation>
+    </message>
+    <message>
+        <source>Part of a project name</source>
+        <translation>项目名称的一部分</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
     </message>
 </context>
 <context>

@@ -13,9 +13,17 @@ RkHoveredPushButton::RkHoveredPushButton(QWidget* parent)
 }
 
 RkHoveredPushButton::RkHoveredPushButton(const QString& text, QWidget* parent)
+    : RkHoveredPushButton(
+        text, QStringLiteral("RkHoveredPushButton{color:rgb(58,136,244);border:none;}"), parent)
+{
+}
+
+RkHoveredPushButton::RkHoveredPushButton(const QString& text, const QString& styleSheet,
+                                         QWidget* parent)
     : QPushButton(text, parent)
 {
-    setStyleSheet(QStringLiteral("RkHoveredPushButton{color:rgb(58,136,244);border:none;}"));
+    if (!styleSheet.isEmpty())
+        setStyleSheet(styleSheet);
     setMinimumHeight(25);
 }
 
@@ -28,5 +36,11 @@ void RkHoveredPushButton::paintEvent(QPaintEvent* /*event*/)
         && rect().contains(mapFromGlobal(QCursor::pos()))) {
         option.state |= QStyle::State_MouseOver;
     }
-    QStylePainter(this).drawControl(QStyle::CE_PushButton, option);
+    QStylePainter painter(this);
+    drawButton(painter, option);
+}
+
+void RkHoveredPushButton::drawButton(QStylePainter& painter, QStyleOptionButton& option)
+{
+    painter.drawControl(QStyle::CE_PushButton, option);
 }

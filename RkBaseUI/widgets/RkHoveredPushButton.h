@@ -7,6 +7,9 @@
 
 #include <QPushButton>
 
+class QStyleOptionButton;
+class QStylePainter;
+
 /// Flat push button with blue text. It is painted as hovered whenever the mouse lies over it, also
 /// where no hover event came, as after a popup or a scrolling view moved away from under the mouse.
 ///
@@ -21,5 +24,11 @@ public:
     explicit RkHoveredPushButton(const QString& text, QWidget* parent = nullptr);
 
 protected:
+    /// With another style sheet than that of the class; none when empty.
+    RkHoveredPushButton(const QString& text, const QString& styleSheet, QWidget* parent);
+
     void paintEvent(QPaintEvent* event) override;
+
+    /// Draws the button in the state that the option says.
+    virtual void drawButton(QStylePainter& painter, QStyleOptionButton& option);
 };

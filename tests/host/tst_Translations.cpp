@@ -5,7 +5,11 @@
 
 #include <RkBaseUI/SharedHelpers.h>
 
+#include <QCoreApplication>
+#include <QDir>
 #include <QProcess>
+#include <QRegularExpression>
+#include <QSet>
 #include <QTest>
 #include <QTranslator>
 #include <QXmlStreamReader>
@@ -43,6 +47,16 @@ QVector<Message> readMessages(const QString& path)
     return xml.hasError() ? QVector<Message>() : messages;
 }
 
+/// The text in the file; empty when it has none.
+QString translated(const QVector<Message>& messages, const char* context, const char* text)
+{
+    for (const Message& message : messages) {
+        if (message.context == QLatin1String(context) && message.source == QLatin1String(text))
+            return message.translation;
+    }
+    return {};
+}
+
 QVector<int> placeholders(const QString& text)
 {
     QVector<int> numbers;
@@ -58,26 +72,47 @@ class tst_Translations : public QObject
     Q_OBJECT
 
 private slots:
-    void initTestCase_data();
+    void everyTextOfTheSourcesIsTranslated_data();
     void everyTextOfTheSourcesIsTranslated();
+    void translationsKeepPlaceholdersAndEdges_data();
     void translationsKeepPlaceholdersAndEdges();
+    void loadedFileTranslates_data();
     void loadedFileTranslates();
-    void wordsOfDateConditions();
+    void customIsOneText_data();
+    void customIsOneText();
+    void placeholdersAreThoseOfTheView_data();
+    void placeholdersAreThoseOfTheView();
+    void rangeIsReadByTheView_data();
+    void rangeIsReadByTheView();
+    void frequentCitiesAreInTheCatalogue_data();
+    void frequentCitiesAreInTheCatalogue();
 
 private:
+    void addFiles(bool isLibraryOnly);
     QVector<Message> upToDate();
     static QString source(const QString& path);
 
     TestHome m_home;
 };
 
-/// One run for each translation file, with the folder whose texts it holds.
-void tst_Translations::initTestCase_data()
+/// One row for each translation file shipped, with the folder whose texts it holds.
+void tst_Translations::addFiles(bool isLibraryOnly)
 {
     QTest::addColumn<QString>("file");
     QTest::addColumn<QString>("folder");
-    QTest::newRow("library") << QStringLiteral("RkBaseUI_zh_CN") << QStringLiteral("RkBaseUI");
-    QTest::newRow("host") << QStringLiteral("RkSurveyHost_zh_CN") << QStringLiteral("host");
+    const QString library = QStringLiteral("RkBaseUI");
+    QStringList folders;
+    const QStringList files =
+        QDir(source(QStringLiteral("lang"))).entryList({QStringLiteral("*.ts")}, QDir::Files);
+    for (const QString& name : files) {
+        const QString file = name.chopped(3);
+        const QString folder =
+            file.startsWith(library + QLatin1Char('_')) ? library : QStringLiteral("host");
+        folders.append(folder);
+        if (!isLibraryOnly || folder == library)
+            QTest::newRow(qPrintable(file)) << file << folder;
+    }
+    QVERIFY(folders.contains(library) && folders.contains(QStringLiteral("host")));
 }
 
 QString tst_Translations::source(const QString& path)
@@ -88,8 +123,8 @@ QString tst_Translations::source(const QString& path)
 /// The messages of a copy of the file that is brought up to date with the sources.
 QVector<Message> tst_Translations::upToDate()
 {
-    QFETCH_GLOBAL(QString, file);
-    QFETCH_GLOBAL(QString, folder);
+    QFETCH(QString, file);
+    QFETCH(QString, folder);
     const QString copy = QStringLiteral("%1/%2.ts").arg(m_home.path(), file);
     if (!writeFile(copy, readFile(source(QStringLiteral("lang/%1.ts").arg(file)))))
         return {};
@@ -99,6 +134,11 @@ QVector<Message> tst_Translations::upToDate()
     if (!update.waitForFinished() || update.exitCode() != 0)
         return {};
     return readMessages(copy);
+}
+
+void tst_Translations::everyTextOfTheSourcesIsTranslated_data()
+{
+    addFiles(false);
 }
 
 void tst_Translations::everyTextOfTheSourcesIsTranslated()
@@ -112,6 +152,11 @@ void tst_Translations::everyTextOfTheSourcesIsTranslated()
     }
 }
 
+void tst_Translations::translationsKeepPlaceholdersAndEdges_data()
+{
+    addFiles(false);
+}
+
 void tst_Translations::translationsKeepPlaceholdersAndEdges()
 {
     for (const Message& message : upToDate()) {
@@ -123,9 +168,14 @@ void tst_Translations::translationsKeepPlaceholdersAndEdges()
     }
 }
 
+void tst_Translations::loadedFileTranslates_data()
+{
+    addFiles(false);
+}
+
 void tst_Translations::loadedFileTranslates()
 {
-    QFETCH_GLOBAL(QString, file);
+    QFETCH(QString, file);
     const std::unique_ptr<QTranslator> translator(CreateTranslator(file));
     QVERIFY(!translator->isEmpty());
     const QVector<Message> messages = upToDate();
@@ -137,15 +187,87 @@ void tst_Translations::loadedFileTranslates()
     }
 }
 
-/// The word between two dates must not look like a part of one.
-void tst_Translations::wordsOfDateConditions()
+void tst_Translations::customIsOneText_data()
 {
-    const std::unique_ptr<QTranslator> translator(
-        CreateTranslator(QStringLiteral("RkBaseUI_zh_CN")));
-    const QString to = translator->translate("CRkProjectManagerView", "to");
+    addFiles(false);
+}
+
+/// The word has a blank behind it at some places, by which nobody should see two.
+void tst_Translations::customIsOneText()
+{
+    QSet<QString> texts;
+    for (const Message& message : upToDate()) {
+        if (message.source.trimmed() == QLatin1String("Custom"))
+            texts.insert(message.translation);
+    }
+    QVERIFY2(texts.size() <= 1, qPrintable(QStringList(texts.values()).join(QLatin1Char('|'))));
+}
+
+void tst_Translations::placeholdersAreThoseOfTheView_data()
+{
+    addFiles(true);
+}
+
+/// The project view compares what the filter bar and its pickers show with words of its own.
+void tst_Translations::placeholdersAreThoseOfTheView()
+{
+    const QVector<Message> messages = upToDate();
+    const auto check = [&](const char* context, const char* text, const char* viewText) {
+        const QString shown = translated(messages, context, text);
+        const QString compared = translated(messages, "CRkProjectManagerView", viewText);
+        QVERIFY2(!compared.isEmpty(), viewText);
+        QVERIFY2(
+            shown.compare(compared, Qt::CaseInsensitive) == 0,
+            qPrintable(QStringLiteral("%1 %2: \"%3\", in the view \"%4\"")
+                           .arg(QLatin1String(context), QLatin1String(text), shown, compared)));
+    };
+    check("CRkCityDateFilterWidget", "City", "city");
+    check("CRkCityDateFilterWidget", "All", "all");
+    check("CRkCitySelectWidget", "All", "all");
+    check("CRkCityDateFilterWidget", "Date", "date");
+    check("CRkDateSelectWidget", "Date", "date");
+}
+
+void tst_Translations::rangeIsReadByTheView_data()
+{
+    addFiles(true);
+}
+
+/// The view splits a range at its word for "to" and takes the blanks away from the two days.
+void tst_Translations::rangeIsReadByTheView()
+{
+    const QVector<Message> messages = upToDate();
+    const QString to = translated(messages, "CRkProjectManagerView", "to");
+    const QString range = translated(messages, "CRkDateSelectWidget", "%1 to %2");
     QVERIFY(!to.isEmpty());
-    for (const QChar c : to)
+    for (const QChar c : to) // It must not look like a part of a day.
         QVERIFY(!c.isDigit() && c != QLatin1Char('-') && !c.isSpace());
+    const QRegularExpression shape(
+        QStringLiteral("^%1 *%2 *%3$")
+            .arg(QStringLiteral("%1"), QRegularExpression::escape(to), QStringLiteral("%2")));
+    QVERIFY2(shape.match(range).hasMatch(), qPrintable(range));
+    QCOMPARE(range.count(to), 1);
+}
+
+void tst_Translations::frequentCitiesAreInTheCatalogue_data()
+{
+    addFiles(true);
+}
+
+/// A project passes the city filter when one of its places contains the text.
+void tst_Translations::frequentCitiesAreInTheCatalogue()
+{
+    const QStringList names =
+        readSql(QCoreApplication::applicationDirPath() + QStringLiteral("/ChinaAdminiDstrict.db"),
+                QStringLiteral("select name from city"));
+    QVERIFY(names.size() > 300);
+    const QVector<Message> messages = upToDate();
+    for (const char* city : {"Beijing", "Shanghai", "Guangzhou", "Shenzhen", "Chengdu", "Tianjin",
+                             "Nanjing", "Hangzhou", "Wuhan", "Chongqing"}) {
+        const QString text = translated(messages, "CRkCitySelectWidget", city);
+        QVERIFY2(!text.isEmpty(), city);
+        QVERIFY2(!names.filter(text).isEmpty(), qPrintable(text));
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_Translations)
