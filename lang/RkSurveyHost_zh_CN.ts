@@ -2,6 +2,73 @@
 <!DOCTYPE TS>
 <TS version="2.1" language="zh_CN" sourcelanguage="en_US">
 <context>
+    <name>BlockPanel</name>
+    <message>
+        <source>Nothing opened yet</source>
+        <translation>尚未打开测区</translation>
+    </message>
+    <message>
+        <source>Choose a project and one of its blocks to see it on the map.</source>
+        <translation>请选择项目及其测区，在地图上查看。</translation>
+    </message>
+    <message>
+        <source>Open a project</source>
+        <translation>打开项目</translation>
+    </message>
+    <message>
+        <source>PROJECT</source>
+        <translation>项目</translation>
+    </message>
+    <message>
+        <source>BLOCK</source>
+        <translation>测区</translation>
+    </message>
+    <message>
+        <source>TASKS AND FLIGHTS</source>
+        <translation>任务与架次</translation>
+    </message>
+    <message>
+        <source>Scale</source>
+        <translation>比例尺</translation>
+    </message>
+    <message>
+        <source>Centre</source>
+        <translation>中心点</translation>
+    </message>
+    <message>
+        <source>File</source>
+        <translation>文件</translation>
+    </message>
+    <message>
+        <source>Software version</source>
+        <translation>软件版本</translation>
+    </message>
+    <message>
+        <source>Aircraft</source>
+        <translation>飞机类型</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>相机类型</translation>
+    </message>
+    <message>
+        <source>Tasks and flights</source>
+        <translation>任务与架次</translation>
+    </message>
+    <message>
+        <source>Task</source>
+        <translation>任务</translation>
+    </message>
+    <message>
+        <source>Flights</source>
+        <translation>架次</translation>
+    </message>
+    <message>
+        <source>Tasks: %1, flights: %2</source>
+        <translation>任务：%1，架次：%2</translation>
+    </message>
+</context>
+<context>
     <name>Gallery</name>
     <message>
         <source>Save Project As</source>
@@ -223,76 +290,101 @@
         <translation>Vantrell</translation>
     </message>
     <message>
-        <source>Copy</source>
-        <translation>复制</translation>
+        <source>%1 - %2</source>
+        <translation>%1 - %2</translation>
     </message>
     <message>
-        <source>Delete</source>
-        <translation>删除</translation>
+        <source>Tools</source>
+        <translation>工具栏</translation>
     </message>
     <message>
-        <source>New project</source>
-        <translation>新建项目</translation>
+        <source>Projects</source>
+        <translation>项目管理</translation>
     </message>
     <message>
-        <source>Place</source>
-        <translation>地区</translation>
+        <source>Open a project and one of its blocks (%1)</source>
+        <translation>打开项目及其测区（%1）</translation>
     </message>
     <message>
-        <source>Modified</source>
-        <translation>修改时间</translation>
+        <source>Current user</source>
+        <translation>当前用户</translation>
     </message>
     <message>
-        <source>Keyword</source>
-        <translation>关键词</translation>
+        <source>Language</source>
+        <translation>语言</translation>
     </message>
     <message>
-        <source>Search projects</source>
-        <translation>搜索项目</translation>
+        <source>Language: %1</source>
+        <translation>语言：%1</translation>
+    </message>
+</context>
+<context>
+    <name>MapButtons</name>
+    <message>
+        <source>Zoom in</source>
+        <translation>放大</translation>
     </message>
     <message>
-        <source>Survey projects</source>
-        <translation>航测项目</translation>
+        <source>Zoom out</source>
+        <translation>缩小</translation>
     </message>
     <message>
-        <source>No projects to show</source>
-        <translation>没有符合条件的项目</translation>
+        <source>Show the block</source>
+        <translation>显示测区</translation>
     </message>
     <message>
-        <source>All places</source>
-        <translation>全部地区</translation>
+        <source>Show all blocks of the project</source>
+        <translation>显示项目全部测区</translation>
     </message>
     <message>
-        <source>Any time</source>
-        <translation>全部时间</translation>
+        <source>Show the whole country</source>
+        <translation>显示全国</translation>
+    </message>
+</context>
+<context>
+    <name>MapPanel</name>
+    <message>
+        <source>Map</source>
+        <translation>地图</translation>
+    </message>
+</context>
+<context>
+    <name>UserBox</name>
+    <message>
+        <source>Lin Yue</source>
+        <translation>林悦</translation>
     </message>
     <message>
-        <source>Today</source>
-        <translation>今天</translation>
+        <source>Chen Bo</source>
+        <translation>陈波</translation>
     </message>
     <message>
-        <source>Last week</source>
-        <translation>最近一周</translation>
+        <source>Zhao Min</source>
+        <translation>赵敏</translation>
     </message>
     <message>
-        <source>Last month</source>
-        <translation>最近一个月</translation>
+        <source>Wang Jia</source>
+        <translation>王佳</translation>
     </message>
     <message>
-        <source>Last half year</source>
-        <translation>最近半年</translation>
+        <source>Huang Rui</source>
+        <translation>黄睿</translation>
     </message>
     <message>
-        <source>1 project</source>
-        <translation>1 个项目</translation>
+        <source>Sun Tao</source>
+        <translation>孙涛</translation>
     </message>
     <message>
-        <source>%1 projects</source>
-        <translation>%1 个项目</translation>
+        <source>%1 (%2)</source>
+        <translation>%1（%2）</translation>
     </message>
     <message>
-        <source>Opened: %1</source>
-        <translation>已打开：%1</translation>
+        <source>Current user</source>
+        <translation>当前用户</translation>
+    </message>
+    <message>
+        <source>Whose projects are shown. Choose a user or type an id.</source>
+        <translation>显示该用户的项目，可选择用户或输入用户编号。</translation>
     </message>
 </context>
 </TS>

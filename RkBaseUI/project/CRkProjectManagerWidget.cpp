@@ -39,6 +39,11 @@ CRkProjectManagerWidget::CRkProjectManagerWidget(QWidget* parent)
 
 CRkProjectManagerWidget::~CRkProjectManagerWidget() = default;
 
+CRkProjectManagerView* CRkProjectManagerWidget::getProjectManagerView() const
+{
+    return m_view;
+}
+
 void CRkProjectManagerWidget::SetNewProjectButtonVisible(bool visible)
 {
     m_ui->pushButtonNewProject->setVisible(visible);

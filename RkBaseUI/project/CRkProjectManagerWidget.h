@@ -34,7 +34,7 @@ public:
     ~CRkProjectManagerWidget() override;
 
     /// The tiles; null once a host has deleted the view. The page owns it.
-    CRkProjectManagerView* getProjectManagerView() const { return m_view; }
+    CRkProjectManagerView* getProjectManagerView() const;
 
     void SetNewProjectButtonVisible(bool visible);
     void SetCopyProjectBtnVisible(bool visible);

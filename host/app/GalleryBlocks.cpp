@@ -5,9 +5,7 @@
 #include "app/GalleryWindows.h"
 
 #include <RkBaseUI/CRkBlockManagerWidget.h>
-#include <RkData/CRkControl.h>
 
-#include <QDirIterator>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -35,12 +33,7 @@ Window blockPage(Worth worth)
 {
     auto page = std::make_unique<CRkBlockManagerWidget>();
     page->resize(960, 568);
-    QStringList files;
-    QDirIterator projects(CRkControl::GetProjectDirPath(), {QStringLiteral("*.proj")}, QDir::Files,
-                          QDirIterator::Subdirectories);
-    while (projects.hasNext())
-        files.append(projects.next());
-    files.sort(); // The same project on every machine.
+    const QStringList files = GalleryParts::projectFiles();
     const auto most =
         std::max_element(files.cbegin(), files.cend(), [&](const auto& a, const auto& b) {
             const auto worthOf = [&](const QString& file) {

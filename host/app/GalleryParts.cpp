@@ -3,11 +3,11 @@
 
 #include "app/GalleryParts.h"
 
-#include "app/HostWindow.h"
-
 #include <RkBaseUI/CRkGraphicsProjectRectItem.h>
 #include <RkBaseUI/CRkProjectManagerView.h>
+#include <RkData/CRkControl.h>
 
+#include <QDirIterator>
 #include <QGraphicsScene>
 #include <QMouseEvent>
 #include <QPushButton>
@@ -16,6 +16,21 @@
 #include <algorithm>
 
 namespace GalleryParts {
+
+namespace {
+
+const char* const pageStyle = R"(
+#page { background-color: rgb(240, 240, 240); }
+#page CRkProjectManagerView { background-color: rgb(240, 240, 240); border: none; }
+#page QScrollBar { background: transparent; width: 10px; margin: 0; }
+#page QScrollBar::handle {
+    background: rgb(198, 205, 216); border-radius: 4px; min-height: 40px; margin: 1px;
+}
+#page QScrollBar::add-line, #page QScrollBar::sub-line { height: 0; }
+#page QScrollBar::add-page, #page QScrollBar::sub-page { background: transparent; }
+)";
+
+} // namespace
 
 void hover(QWidget& widget)
 {
@@ -34,12 +49,23 @@ Window viewPage()
 {
     auto page = std::make_unique<QWidget>();
     page->setObjectName(QStringLiteral("page"));
-    page->setStyleSheet(HostWindow::pageStyle());
+    page->setStyleSheet(QString::fromLatin1(pageStyle));
     page->resize(904, 640);
     auto* layout = new QVBoxLayout(page.get());
     layout->setContentsMargins(0, 16, 0, 0);
     layout->addWidget(new CRkProjectManagerView(page.get()));
     return page;
+}
+
+QStringList projectFiles()
+{
+    QStringList files;
+    QDirIterator projects(CRkControl::GetProjectDirPath(), {QStringLiteral("*.proj")}, QDir::Files,
+                          QDirIterator::Subdirectories);
+    while (projects.hasNext())
+        files.append(projects.next());
+    files.sort();
+    return files;
 }
 
 CRkProjectManagerView& viewOf(QWidget& window)

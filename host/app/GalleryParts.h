@@ -5,6 +5,7 @@
 
 #include <QCoreApplication>
 #include <QList>
+#include <QStringList>
 
 #include <memory>
 
@@ -23,8 +24,11 @@ class Texts
     Q_DECLARE_TR_FUNCTIONS(Gallery)
 };
 
-/// The view alone, four tiles wide, on the surface that it has in the host.
+/// The view alone, four tiles wide.
 Window viewPage();
+
+/// All project files below the project root, in the same order on every machine.
+QStringList projectFiles();
 
 /// The view in a window that has one.
 CRkProjectManagerView& viewOf(QWidget& window);

@@ -4,20 +4,14 @@
 #include "app/GalleryWindows.h"
 
 #include "app/GalleryParts.h"
-#include "app/HostWindow.h"
 
 #include <RkBaseUI/CRkGraphicsProjectRectItem.h>
 #include <RkBaseUI/CRkGraphicsProjectTextItem.h>
 #include <RkBaseUI/CRkProjectManagerView.h>
 
-#include <QCoreApplication>
-#include <QDeadlineTimer>
 #include <QGraphicsScene>
-#include <QLineEdit>
 #include <QMap>
 #include <QTextCursor>
-#include <QToolButton>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -63,37 +57,6 @@ void filterByCity(QWidget& window)
     viewOf(window).slotFilterConditionChanged(most.key(), QString(), QString(), QString());
 }
 
-Window hostWindow()
-{
-    return std::make_unique<HostWindow>();
-}
-
-void search(QWidget& window, const QString& keyword)
-{
-    static_cast<HostWindow&>(window).setKeyword(keyword);
-    // The button that clears the keyword comes up slowly.
-    const auto* clearButton = window.findChild<QLineEdit*>()->findChild<QToolButton*>();
-    const QDeadlineTimer deadline(1000);
-    while (clearButton->property("opacity").toReal() < 1 && !deadline.hasExpired())
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
-}
-
-void searchHost(QWidget& window)
-{
-    search(window, QStringLiteral("2026"));
-}
-
-void searchHostForNothing(QWidget& window)
-{
-    search(window, QStringLiteral("no such name"));
-}
-
-void openFirst(QWidget& window)
-{
-    selectFirst(window);
-    emit viewOf(window).projectOpened(firstTile(window).GetProjectFilePath());
-}
-
 } // namespace
 
 QVector<Gallery::Entry> galleryWindows()
@@ -104,11 +67,8 @@ QVector<Gallery::Entry> galleryWindows()
         {QStringLiteral("view-editing"), viewPage, editFirstCaption},
         {QStringLiteral("view-keyword"), viewPage, filterByKeyword},
         {QStringLiteral("view-city"), viewPage, filterByCity},
-        {QStringLiteral("host"), hostWindow, {}},
-        {QStringLiteral("host-opened"), hostWindow, openFirst},
-        {QStringLiteral("host-keyword"), hostWindow, searchHost},
-        {QStringLiteral("host-empty"), hostWindow, searchHostForNothing},
     };
-    return pages + galleryBlocks() + galleryDialogs() + galleryControls() + galleryPictures()
+    return pages + galleryHost() + galleryProjects() + galleryCity() + galleryDates()
+        + galleryBlocks() + galleryDialogs() + galleryControls() + galleryPictures()
         + galleryMessages();
 }

@@ -9,6 +9,18 @@
 /// projects below the project root.
 QVector<Gallery::Entry> galleryWindows();
 
+/// Of these, the host's main window.
+QVector<Gallery::Entry> galleryHost();
+
+/// Of these, the project manager.
+QVector<Gallery::Entry> galleryProjects();
+
+/// Of these, the city picker.
+QVector<Gallery::Entry> galleryCity();
+
+/// Of these, the date picker and the filter bar.
+QVector<Gallery::Entry> galleryDates();
+
 /// Of these, the page of a project's blocks.
 QVector<Gallery::Entry> galleryBlocks();
 

@@ -14,6 +14,9 @@ void setProjectRoot(const QString& folder);
 /// Whose projects are shown. Written to the settings, where the library reads it.
 void setCurrentUser(const QString& userId);
 
+/// Empty when there is none.
+QString currentUser();
+
 /// Whether this system keeps native settings in files, so that `useFolder` works.
 bool canUseFolder();
 
@@ -21,7 +24,11 @@ bool canUseFolder();
 /// runs it. Call before the first settings are read.
 void useFolder(const QString& folder);
 
-/// Installs the texts of library, host and toolkit in a language, "zh_CN" or "en".
+/// Installs the texts of library, host and toolkit in a language, "zh_CN" or "en", instead of those
+/// installed before. Windows hear of it by QEvent::LanguageChange.
 void installLanguage(const QString& language);
+
+/// The language installed last; "en" before.
+QString language();
 
 } // namespace HostSettings

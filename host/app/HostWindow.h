@@ -3,59 +3,70 @@
 
 #pragma once
 
+#include <RkBaseUI/CRkOpenedProjectInfo.h>
+
 #include <QMainWindow>
+#include <QPointer>
 
-class CRkBlockManagerWidget;
-class CRkProjectManagerView;
-class QComboBox;
+class BlockPanel;
+class CRkProjectManagerDialog;
+class MapPanel;
+class QAction;
+class QActionGroup;
 class QLabel;
-class QLineEdit;
-class QPushButton;
 class QStackedWidget;
+class QToolBar;
+class QToolButton;
+class UserBox;
 
-/// The main window of the survey application: the projects of the current user as tiles, with a bar
-/// above that makes, copies and deletes projects and filters by place, date and name. An opened
-/// project shows the page of its blocks instead.
+/// The main window of the survey application: a tool bar, the map, and beside it what is opened.
+/// Projects and blocks are chosen in the dialog of projects.
 ///
 ///     HostSettings::setCurrentUser(userId);
 ///     HostWindow window;
 ///     window.show();
+///     window.openProjects();
 class HostWindow : public QMainWindow
 {
     Q_OBJECT
 
 public:
-    /// Lists the projects that the settings name.
     explicit HostWindow(QWidget* parent = nullptr);
 
-    CRkProjectManagerView* view() const { return m_view; }
+    /// The dialog of projects; null while it is not open.
+    CRkProjectManagerDialog* projectsDialog() const;
+    MapPanel* map() const { return m_map; }
+    BlockPanel* blockPanel() const { return m_block; }
 
-    /// Style sheet of the surface around the view, a widget with the object name "page".
-    static QString pageStyle();
+    /// Shows a block of a project whose blocks are loaded, and goes there on the map.
+    void showBlock(const CRkOpenedProjectInfo& project, const QString& blockId);
 
-    /// Filters by a part of the project's name; empty for all.
-    void setKeyword(const QString& keyword);
+public Q_SLOTS:
+    /// Shows the dialog of projects until the user opens a block there or closes it.
+    void openProjects();
+
+protected:
+    void changeEvent(QEvent* event) override;
 
 private:
-    QWidget* makeHeader();
-    QPushButton* makeAction(const QString& text, void (CRkProjectManagerView::*slot)());
-    QWidget* makePage();
-    void makeStatusBar();
-    void fillPlaces();
-    void fillDates();
-    void applyFilter();
-    void updateCount();
-    void openProject(const QString& projectFile);
-    void showProjects();
+    void makeToolBar();
+    void addGap();
+    void makeLanguageMenu();
+    void makeDock();
+    void retranslate();
     void openBlock(const QString& blockId);
+    void closeBlock();
 
-    QStackedWidget* m_pages = nullptr;
-    CRkProjectManagerView* m_view = nullptr;
-    CRkBlockManagerWidget* m_blocks = nullptr;
-    QLabel* m_noProjects = nullptr;
-    QComboBox* m_place = nullptr;
-    QComboBox* m_date = nullptr;
-    QLineEdit* m_keyword = nullptr;
-    QLabel* m_count = nullptr;
-    QLabel* m_opened = nullptr;
+    QToolBar* m_tools = nullptr;
+    QLabel* m_brand = nullptr;
+    QAction* m_openProjects = nullptr;
+    QLabel* m_userTitle = nullptr;
+    UserBox* m_user = nullptr;
+    QToolButton* m_language = nullptr;
+    QActionGroup* m_languages = nullptr;
+    QStackedWidget* m_panels = nullptr; ///< The pages in the middle, of which the map is one.
+    MapPanel* m_map = nullptr;
+    BlockPanel* m_block = nullptr;
+    QPointer<CRkProjectManagerDialog> m_projects;
+    QString m_openedName; ///< Of the project; empty while none is opened.
 };

@@ -37,8 +37,8 @@ void addOptions(QCommandLineParser& parser)
                       QStringLiteral("Folder of the settings, instead of the person's own."),
                       QStringLiteral("DIR")});
     parser.addOption({QStringLiteral("user"),
-                      QStringLiteral("Show the projects of this user; the settings keep it."),
-                      QStringLiteral("ID"), sampleUserId()});
+                      QStringLiteral("Show the projects of this user from now on."),
+                      QStringLiteral("ID")});
     parser.addOption(
         {QStringLiteral("gallery"),
          QStringLiteral("Write a picture of every window into a folder and exit. Sample projects "
@@ -113,9 +113,13 @@ int runWindow(const Options& options)
     }
     if (!options.projects.isEmpty())
         HostSettings::setProjectRoot(options.projects);
-    HostSettings::setCurrentUser(options.userId);
+    if (!options.userId.isEmpty())
+        HostSettings::setCurrentUser(options.userId);
+    else if (HostSettings::currentUser().isEmpty())
+        HostSettings::setCurrentUser(sampleUserId());
     HostWindow window;
     window.show();
+    window.openProjects();
     return QApplication::exec();
 }
 

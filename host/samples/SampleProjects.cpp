@@ -84,9 +84,11 @@ bool holdsProject(SampleKind kind)
     return kind != SampleKind::EmptyFile && kind != SampleKind::NotADatabase;
 }
 
+constexpr int otherUsers = 5;
+
 QString otherUserId(int index)
 {
-    return QStringLiteral("u-%1").arg(100300 + index % 5);
+    return QStringLiteral("u-%1").arg(100300 + index % otherUsers);
 }
 
 QVector<PlannedProject> plan(const SampleOptions& options)
@@ -298,6 +300,14 @@ bool writeProject(const QString& file, const PlannedProject& planned, int index,
 QString sampleUserId()
 {
     return QStringLiteral("u-100217");
+}
+
+QStringList sampleUserIds()
+{
+    QStringList ids = {sampleUserId()};
+    for (int i = 0; i < otherUsers; ++i)
+        ids.append(otherUserId(i));
+    return ids;
 }
 
 QVector<SampleProject> planSampleProjects(const SampleOptions& options)

@@ -41,6 +41,9 @@ struct SampleProject
 /// The user whose projects the samples are, unless told otherwise.
 QString sampleUserId();
 
+/// The users that the samples may belong to: the main user of sample projects, then the others.
+QStringList sampleUserIds();
+
 /// What `writeSampleProjects` would write, in its order. Needs the city catalogue beside the
 /// executable; empty without it.
 QVector<SampleProject> planSampleProjects(const SampleOptions& options);

@@ -205,10 +205,15 @@ void tst_Gallery::programShowsEveryWindow()
     QFETCH(int, scale);
     const Run& run = gallery(language, scale);
     QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
-    for (const char* name : {"view-tiles", "view-selected", "view-editing", "view-keyword",
-                             "view-city", "host", "host-empty", "block-page", "block-page-searched",
-                             "block-page-sorted", "block-page-disabled", "block-page-empty",
-                             "base-dialog", "base-dialog-ok-hover", "base-widget"})
+    for (const char* name :
+         {"view-tiles", "view-selected", "view-editing", "view-keyword", "view-city", "host",
+          "host-province", "host-country", "host-empty", "projects", "projects-selected",
+          "projects-searched", "projects-blocks", "city-provinces", "city-cities",
+          "city-searched-twice", "city-jump-province", "city-jump-city", "date-picker",
+          "date-picker-from", "date-picker-to", "filter-bar", "filter-bar-city",
+          "filter-bar-date", "block-page", "block-page-searched", "block-page-sorted",
+          "block-page-disabled", "block-page-empty", "base-dialog", "base-dialog-ok-hover",
+          "base-widget"})
         QVERIFY2(run.files.contains(file(QLatin1String(name), language, scale)), name);
     QSet<QByteArray> contents;
     for (const QString& path : run.files) {

@@ -1,29 +1,47 @@
 // SPDX-FileCopyrightText: 2026 The RkBaseUI developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
+#include "app/BlockPanel.h"
 #include "app/HostSettings.h"
 #include "app/HostWindow.h"
+#include "app/MapPanel.h"
+#include "app/UserBox.h"
 #include "samples/SampleProjects.h"
-#include "support/BoxAnswerer.h"
 #include "support/TestSupport.h"
 
 #include <RkBaseUI/CRkBlockManagerWidget.h>
-#include <RkBaseUI/CRkGraphicsProjectRectItem.h>
+#include <RkBaseUI/CRkProjectManagerDialog.h>
 #include <RkBaseUI/CRkProjectManagerView.h>
+#include <RkBaseUI/CRkProjectManagerWidget.h>
+#include <RkData/CRkControl.h>
+#include <RkData/ReferenceSettings.h>
 
-#include <QComboBox>
+#include <QAction>
 #include <QFileInfo>
 #include <QGraphicsScene>
-#include <QLabel>
 #include <QLineEdit>
+#include <QMenu>
+#include <QPointer>
 #include <QProcess>
 #include <QPushButton>
 #include <QSettings>
-#include <QStatusBar>
 #include <QTest>
+#include <QToolButton>
 #include <QTreeWidget>
 
 #include <algorithm>
+#include <memory>
+
+namespace {
+
+QString storedUser()
+{
+    return QSettings(QStringLiteral("RkOrganization"), QStringLiteral("RkCloud"))
+        .value(QStringLiteral("UserInfo/UserID"))
+        .toString();
+}
+
+} // namespace
 
 class tst_HostWindow : public QObject
 {
@@ -32,23 +50,32 @@ class tst_HostWindow : public QObject
 private slots:
     void initTestCase();
     void init();
+    void cleanup();
     void settingsHoldTheUser();
-    void countsTheProjectsOfTheUser();
-    void anotherUserSeesOtherProjects();
-    void keywordFilters();
-    void placeFilters();
-    void dateFilters();
-    void emptyPageSaysSo();
-    void newProjectIsMadeAndCounted();
-    void selectedProjectIsCopiedAndDeleted();
-    void openedProjectShowsItsBlocks();
+    void projectsButtonOpensTheDialog();
+    void dialogIsOpenOnce();
+    void closedDialogChangesNothing();
+    void openedBlockIsShown();
+    void flightsAreCountedWhenTheBlockIsOpened();
+    void usersOfTheSamplesHaveNames();
+    void chosenUserGoesToTheSettings();
+    void typedUserGoesToTheSettings();
+    void anotherUserClosesTheBlock();
+    void dialogListsTheProjectsOfTheUser();
+    void languageMenuSwitches();
+    void languagesAreReplaced();
     void programKeepsItsSettingsWhereItIsTold();
+    void programStartsWithTheUserOfTheSamples();
 
 private:
-    static QStringList statusTexts(const HostWindow& window);
-    static QPushButton* action(const HostWindow& window, const char* text);
+    /// The file of a project that has a block with tasks.
+    QString flownProject() const;
+    /// Opens the project in the dialog, and its first block.
+    void openIn(CRkProjectManagerDialog& dialog, const QString& file);
+    static QAction* language(const HostWindow& window, const QString& id);
 
     TestHome m_home;
+    std::unique_ptr<HostWindow> m_window;
 };
 
 void tst_HostWindow::initTestCase()
@@ -64,165 +91,243 @@ void tst_HostWindow::init()
 {
     HostSettings::setProjectRoot(m_home.projectRoot());
     HostSettings::setCurrentUser(sampleUserId());
+    HostSettings::installLanguage(QStringLiteral("en"));
+    ClearBlocks();
+    m_window = std::make_unique<HostWindow>();
+    m_window->show();
+    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
 }
 
-QStringList tst_HostWindow::statusTexts(const HostWindow& window)
+void tst_HostWindow::cleanup()
 {
-    QStringList texts;
-    for (const QLabel* label : window.findChild<QStatusBar*>()->findChildren<QLabel*>())
-        texts.append(label->text());
-    return texts;
+    m_window.reset();
+    HostSettings::installLanguage(QStringLiteral("en"));
 }
 
-QPushButton* tst_HostWindow::action(const HostWindow& window, const char* text)
+QString tst_HostWindow::flownProject() const
 {
-    const QList<QPushButton*> buttons = window.findChildren<QPushButton*>();
-    const auto found = std::find_if(buttons.begin(), buttons.end(), [text](const auto* button) {
-        return button->text() == QLatin1String(text);
-    });
-    return found == buttons.end() ? nullptr : *found;
+    SampleOptions samples;
+    samples.userId = sampleUserId();
+    samples.now = QDateTime::currentDateTime();
+    for (const SampleProject& project : planSampleProjects(samples)) {
+        const QString file = m_home.projectRoot() + project.name + '/' + project.name + ".proj";
+        if (project.kind == SampleKind::Sound
+            && QFileInfo::exists(CRkControl::GetFlightMissionFilePath(file)))
+            return file;
+    }
+    return {};
+}
+
+void tst_HostWindow::openIn(CRkProjectManagerDialog& dialog, const QString& file)
+{
+    emit dialog.getProjectManagerWidget()->getProjectManagerView()->projectOpened(file);
+    QTRY_VERIFY(dialog.getBlockManagerWidget()->isVisible());
+    auto* blocks = dialog.getBlockManagerWidget()->findChild<QTreeWidget*>();
+    QVERIFY(blocks->topLevelItemCount() > 0);
+    emit blocks->itemDoubleClicked(blocks->topLevelItem(0), 0);
+}
+
+QAction* tst_HostWindow::language(const HostWindow& window, const QString& id)
+{
+    const QList<QAction*> actions = window.findChild<QMenu*>()->actions();
+    const auto found = std::find_if(actions.begin(), actions.end(),
+                                    [&](const QAction* action) { return action->data() == id; });
+    return found == actions.end() ? nullptr : *found;
 }
 
 void tst_HostWindow::settingsHoldTheUser()
 {
     HostSettings::setCurrentUser(QStringLiteral("somebody"));
-    QCOMPARE(QSettings(QStringLiteral("RkOrganization"), QStringLiteral("RkCloud"))
-                 .value(QStringLiteral("UserInfo/UserID"))
-                 .toString(),
-             QStringLiteral("somebody"));
+    QCOMPARE(storedUser(), QStringLiteral("somebody"));
+    QCOMPARE(HostSettings::currentUser(), QStringLiteral("somebody"));
 }
 
-void tst_HostWindow::countsTheProjectsOfTheUser()
+void tst_HostWindow::projectsButtonOpensTheDialog()
 {
-    const HostWindow window;
-    QVERIFY(statusTexts(window).contains(QStringLiteral("20 projects")));
+    QVERIFY(!m_window->projectsDialog());
+    QTest::mouseClick(m_window->findChild<QToolButton*>(QStringLiteral("openProjects")),
+                      Qt::LeftButton);
+    CRkProjectManagerDialog* dialog = m_window->projectsDialog();
+    QVERIFY(dialog && dialog->isVisible() && dialog->isModal());
+    QVERIFY(dialog->getProjectManagerWidget()->isVisible());
+    dialog->close();
+    QTRY_VERIFY(!m_window->projectsDialog());
+    m_window->blockPanel()->findChild<QPushButton*>()->click();
+    QVERIFY(m_window->projectsDialog());
 }
 
-void tst_HostWindow::anotherUserSeesOtherProjects()
+void tst_HostWindow::dialogIsOpenOnce()
 {
-    HostSettings::setCurrentUser(QStringLiteral("nobody"));
-    const HostWindow window;
-    QVERIFY(statusTexts(window).contains(QStringLiteral("0 projects")));
+    m_window->openProjects();
+    const QPointer<CRkProjectManagerDialog> dialog = m_window->projectsDialog();
+    m_window->openProjects();
+    QCOMPARE(m_window->projectsDialog(), dialog.data());
+    QCOMPARE(m_window->findChildren<CRkProjectManagerDialog*>().size(), 1);
 }
 
-void tst_HostWindow::keywordFilters()
+void tst_HostWindow::closedDialogChangesNothing()
 {
+    const MapView before = m_window->map()->view();
+    m_window->openProjects();
+    m_window->projectsDialog()->close();
+    QTRY_VERIFY(!m_window->projectsDialog());
+    QVERIFY(m_window->map()->view() == before);
+    QVERIFY(!m_window->blockPanel()->findChild<QTreeWidget*>()->isVisible());
+}
+
+void tst_HostWindow::openedBlockIsShown()
+{
+    const QString file = flownProject();
+    const QString name = QFileInfo(file).completeBaseName();
+    const double country = m_window->map()->view().scale;
+    m_window->openProjects();
+    openIn(*m_window->projectsDialog(), file);
+    QTRY_VERIFY(!m_window->projectsDialog());
+    QVERIFY(m_window->blockPanel()->findChild<QTreeWidget*>()->isVisible());
+    QVERIFY(m_window->windowTitle().startsWith(name));
+    QTRY_VERIFY(!m_window->map()->isMoving());
+    QVERIFY(m_window->map()->view().scale > 50 * country);
+}
+
+/// The page counted them when it loaded the project; meanwhile there was another flight.
+void tst_HostWindow::flightsAreCountedWhenTheBlockIsOpened()
+{
+    const QString file = flownProject();
+    m_window->openProjects();
+    CRkProjectManagerDialog* dialog = m_window->projectsDialog();
+    emit dialog->getProjectManagerWidget()->getProjectManagerView()->projectOpened(file);
+    QTRY_VERIFY(dialog->getBlockManagerWidget()->isVisible());
+    const QStringList tasks =
+        readSql(file, QStringLiteral("select flight_task_guid from flight_task"));
+    QVERIFY(!tasks.isEmpty());
+    QStringList flights;
+    for (const QString& task : tasks)
+        flights.append(QStringLiteral("insert into flight_mission values ('new', '%1', "
+                                      "'2031-01-01 00:00:00')")
+                           .arg(task));
+    QVERIFY(runSql(CRkControl::GetFlightMissionFilePath(file), flights));
+    openIn(*dialog, file);
+    const auto* tree = m_window->blockPanel()->findChild<QTreeWidget*>();
+    QVERIFY(tree->topLevelItemCount() > 0);
+    for (int i = 0; i < tree->topLevelItemCount(); ++i) {
+        const QTreeWidgetItem* task = tree->topLevelItem(i);
+        QCOMPARE(task->text(1).toInt(), task->childCount());
+        QCOMPARE(task->child(task->childCount() - 1)->text(0),
+                 QStringLiteral("2031-01-01 00:00:00"));
+    }
+}
+
+void tst_HostWindow::usersOfTheSamplesHaveNames()
+{
+    const auto* box = m_window->findChild<UserBox*>();
+    const QStringList ids = sampleUserIds();
+    QCOMPARE(box->count(), ids.size());
+    for (int i = 0; i < ids.size(); ++i) {
+        QCOMPARE(box->itemData(i).toString(), ids[i]);
+        QVERIFY(box->itemText(i).endsWith(QStringLiteral(" (%1)").arg(ids[i])));
+    }
+    QCOMPARE(box->currentData().toString(), sampleUserId());
     SampleOptions samples;
     samples.userId = sampleUserId();
+    samples.count = 200;
     samples.now = QDateTime::currentDateTime();
-    const QString name = planSampleProjects(samples).first().name;
-    HostWindow window;
-    window.setKeyword(name.toUpper());
-    QVERIFY(statusTexts(window).contains(QStringLiteral("1 project")));
-    window.setKeyword(QString());
-    QVERIFY(statusTexts(window).contains(QStringLiteral("20 projects")));
+    for (const SampleProject& project : planSampleProjects(samples))
+        QVERIFY(project.userId.isEmpty() || ids.contains(project.userId));
 }
 
-void tst_HostWindow::placeFilters()
+void tst_HostWindow::chosenUserGoesToTheSettings()
 {
-    HostWindow window;
-    auto* place = window.findChildren<QComboBox*>().at(0);
-    QCOMPARE(place->count(), 1 + 34);
-    int sum = 0;
-    for (int i = 1; i < place->count(); ++i) {
-        place->setCurrentIndex(i);
-        sum += statusTexts(window).first().section(QLatin1Char(' '), 0, 0).toInt();
-    }
-    QCOMPARE(sum, 20); // Every project lies in one province.
+    auto* box = m_window->findChild<UserBox*>();
+    box->setFocus();
+    QTest::keyClick(box, Qt::Key_Down);
+    QCOMPARE(storedUser(), sampleUserIds().at(1));
 }
 
-void tst_HostWindow::dateFilters()
+void tst_HostWindow::typedUserGoesToTheSettings()
 {
-    HostWindow window;
-    auto* date = window.findChildren<QComboBox*>().at(1);
-    int last = 0;
-    for (int i = 1; i < date->count(); ++i) {
-        date->setCurrentIndex(i);
-        const int count = statusTexts(window).first().section(QLatin1Char(' '), 0, 0).toInt();
-        QVERIFY2(count >= last, "longer times hold more");
-        last = count;
-    }
-    QVERIFY(last > 3 && last < 20);
+    auto* box = m_window->findChild<UserBox*>();
+    box->lineEdit()->selectAll();
+    QTest::keyClicks(box->lineEdit(), QStringLiteral(" surveyor-7 "));
+    QCOMPARE(storedUser(), sampleUserId()); // Not before the text is complete.
+    QTest::keyClick(box->lineEdit(), Qt::Key_Return);
+    QCOMPARE(storedUser(), QStringLiteral("surveyor-7"));
+    QCOMPARE(box->currentText(), QStringLiteral("surveyor-7"));
+    box->lineEdit()->selectAll();
+    QTest::keyClicks(box->lineEdit(), sampleUserId());
+    QTest::keyClick(box->lineEdit(), Qt::Key_Return);
+    QCOMPARE(storedUser(), sampleUserId());
+    QVERIFY2(box->currentText().contains(QLatin1Char('(')), "a known id shows its name");
 }
 
-void tst_HostWindow::emptyPageSaysSo()
+void tst_HostWindow::anotherUserClosesTheBlock()
 {
-    HostWindow window;
-    window.show();
-    const auto message = [&] {
-        const QList<QLabel*> labels = window.findChildren<QLabel*>();
-        return *std::find_if(labels.cbegin(), labels.cend(), [](const QLabel* label) {
-            return label->text() == QLatin1String("No projects to show");
-        });
-    }();
-    QVERIFY(!message->isVisible());
-    window.setKeyword(QStringLiteral("no such name"));
-    QVERIFY(message->isVisible());
-    QVERIFY(statusTexts(window).contains(QStringLiteral("0 projects")));
+    m_window->openProjects();
+    openIn(*m_window->projectsDialog(), flownProject());
+    QTRY_VERIFY(!m_window->projectsDialog());
+    auto* box = m_window->findChild<UserBox*>();
+    QTest::keyClick(box, Qt::Key_Down);
+    QVERIFY(!m_window->blockPanel()->findChild<QTreeWidget*>()->isVisible());
+    QCOMPARE(m_window->windowTitle(), QStringLiteral("Vantrell"));
 }
 
-void tst_HostWindow::newProjectIsMadeAndCounted()
+void tst_HostWindow::dialogListsTheProjectsOfTheUser()
 {
-    HostWindow window;
-    QTest::mouseClick(action(window, "New project"), Qt::LeftButton);
-    QVERIFY(statusTexts(window).contains(QStringLiteral("21 projects")));
-    const QString file = m_home.projectRoot() + QStringLiteral("New Project/New Project.proj");
-    QVERIFY(QFileInfo::exists(file));
-    QVERIFY(QFile::remove(file));
-}
-
-void tst_HostWindow::selectedProjectIsCopiedAndDeleted()
-{
-    HostWindow window;
-    const BoxAnswerer answers;
-    const auto isTile = [](const QGraphicsItem* item) {
-        return dynamic_cast<const CRkGraphicsProjectRectItem*>(item) != nullptr;
+    const auto tiles = [this] {
+        m_window->openProjects();
+        CRkProjectManagerDialog* dialog = m_window->projectsDialog();
+        const auto count =
+            dialog->getProjectManagerWidget()->getProjectManagerView()->scene()->items().size();
+        dialog->close();
+        const bool isGone = QTest::qWaitFor([this] { return !m_window->projectsDialog(); });
+        return isGone ? int(count) : -1;
     };
-    const QList<QGraphicsItem*> items = window.view()->scene()->items();
-    auto* tile = dynamic_cast<CRkGraphicsProjectRectItem*>(
-        *std::find_if(items.begin(), items.end(), isTile));
-    const QString copy = QStringLiteral("copy of ") + tile->GetProjectName();
-    tile->setSelected(true);
-    QTest::mouseClick(action(window, "Copy"), Qt::LeftButton);
-    QVERIFY(statusTexts(window).contains(QStringLiteral("21 projects")));
-    const QString file = m_home.projectRoot() + copy + '/' + copy + ".proj";
-    QVERIFY(QFileInfo::exists(file));
-
-    window.setKeyword(copy);
-    const QList<QGraphicsItem*> shown = window.view()->scene()->items();
-    (*std::find_if(shown.begin(), shown.end(), isTile))->setSelected(true);
-    QTest::mouseClick(action(window, "Delete"), Qt::LeftButton);
-    QVERIFY(statusTexts(window).contains(QStringLiteral("0 projects")));
-    QVERIFY(!QFileInfo::exists(file));
-    QCOMPARE(answers.boxes.size(), 1);
+    const int own = tiles();
+    QVERIFY(own > 0);
+    auto* box = m_window->findChild<UserBox*>();
+    box->lineEdit()->setText(QStringLiteral("nobody"));
+    QTest::keyClick(box->lineEdit(), Qt::Key_Return);
+    QCOMPARE(tiles(), 0);
 }
 
-void tst_HostWindow::openedProjectShowsItsBlocks()
+void tst_HostWindow::languageMenuSwitches()
 {
-    HostWindow window;
-    window.show();
-    auto* page = window.findChild<CRkBlockManagerWidget*>();
-    QVERIFY(!page->isVisible());
-    emit window.view()->projectOpened(QStringLiteral("/projects/River.1/River.1.proj"));
-    QVERIFY(!page->isVisible()); // It is not there.
+    m_window->openProjects();
+    openIn(*m_window->projectsDialog(), flownProject());
+    QTRY_VERIFY(!m_window->projectsDialog());
+    const auto* open = m_window->findChild<QToolButton*>(QStringLiteral("openProjects"));
+    const auto* box = m_window->findChild<UserBox*>();
+    const QString english = box->currentText();
+    QCOMPARE(open->text(), QStringLiteral("Projects"));
 
-    SampleOptions samples;
-    samples.userId = sampleUserId();
-    samples.now = QDateTime::currentDateTime();
-    const QString name = planSampleProjects(samples).first().name;
-    emit window.view()->projectOpened(m_home.projectRoot() + name + '/' + name + ".proj");
-    QVERIFY(page->isVisible());
-    QVERIFY(!window.view()->isVisible());
-    QCOMPARE(page->getOpenedProjectInfo().projectName, name);
-    QVERIFY(page->findChild<QTreeWidget*>()->topLevelItemCount() > 0);
+    language(*m_window, QStringLiteral("zh_CN"))->trigger();
+    QTRY_COMPARE(open->text(), QString::fromUtf8("项目管理"));
+    QTRY_COMPARE(m_window->map()->accessibleName(), QString::fromUtf8("地图"));
+    QTRY_COMPARE(m_window->blockPanel()->findChild<QTreeWidget*>()->headerItem()->text(1),
+                 QString::fromUtf8("架次"));
+    QTRY_VERIFY(box->currentText() != english);
+    m_window->openProjects();
+    QCOMPARE(m_window->projectsDialog()->windowTitle(),
+             QCoreApplication::translate("CRkProjectManagerDialog", "Open Project"));
+    QVERIFY(m_window->projectsDialog()->windowTitle() != QStringLiteral("Open Project"));
+    m_window->projectsDialog()->close();
 
-    emit page->backToProjectView();
-    QVERIFY(window.view()->isVisible());
-    QVERIFY(statusTexts(window).contains(QStringLiteral("Opened: ") + name));
+    language(*m_window, QStringLiteral("en"))->trigger();
+    QTRY_COMPARE(open->text(), QStringLiteral("Projects"));
+    QTRY_COMPARE(box->currentText(), english);
+    QCOMPARE(storedUser(), sampleUserId());
+}
 
-    emit window.view()->projectOpened(page->getOpenedProjectInfo().projectFilePath);
-    emit page->blockOpened(QStringLiteral("any"));
-    QVERIFY(window.view()->isVisible());
+void tst_HostWindow::languagesAreReplaced()
+{
+    for (int i = 0; i < 3; ++i) {
+        HostSettings::installLanguage(QStringLiteral("zh_CN"));
+        QCOMPARE(HostSettings::language(), QStringLiteral("zh_CN"));
+        QVERIFY(QCoreApplication::translate("HostWindow", "Projects")
+                != QStringLiteral("Projects"));
+        HostSettings::installLanguage(QStringLiteral("en"));
+        QCOMPARE(HostSettings::language(), QStringLiteral("en"));
+        QCOMPARE(QCoreApplication::translate("HostWindow", "Projects"), QStringLiteral("Projects"));
+    }
 }
 
 void tst_HostWindow::programKeepsItsSettingsWhereItIsTold()
@@ -242,6 +347,20 @@ void tst_HostWindow::programKeepsItsSettingsWhereItIsTold()
     program.kill();
     QVERIFY(program.waitForFinished());
     QVERIFY(!QFileInfo::exists(personal + file));
+}
+
+void tst_HostWindow::programStartsWithTheUserOfTheSamples()
+{
+    const QString chosen = m_home.path() + QStringLiteral("/first");
+    QProcess program;
+    program.start(QStringLiteral(RK_SURVEY_HOST),
+                  {QStringLiteral("--settings"), chosen, QStringLiteral("--projects"),
+                   m_home.path() + QStringLiteral("/none")});
+    QTRY_VERIFY_WITH_TIMEOUT(readFile(chosen + QStringLiteral("/RkOrganization/RkCloud.conf"))
+                                 .contains("UserID=" + sampleUserId().toUtf8()),
+                             30'000);
+    program.kill();
+    QVERIFY(program.waitForFinished());
 }
 
 QTEST_MAIN(tst_HostWindow)

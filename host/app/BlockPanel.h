@@ -1,0 +1,66 @@
+// SPDX-FileCopyrightText: 2026 The RkBaseUI developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+
+#pragma once
+
+#include "app/ProjectContent.h"
+
+#include <RkBaseUI/CRkOpenedProjectInfo.h>
+
+#include <QWidget>
+
+class ElidedLabel;
+class QFormLayout;
+class QLabel;
+class QPushButton;
+class QStackedWidget;
+class QTreeWidget;
+
+/// What is opened, beside the map: the project, the block, and the block's tasks with the flights
+/// of each. With nothing opened it says how to open something.
+///
+///     panel->showBlock(dialog->getOpenedProjectInfo(), blockId, content);
+class BlockPanel : public QWidget
+{
+    Q_OBJECT
+
+public:
+    explicit BlockPanel(QWidget* parent = nullptr);
+
+    void showBlock(const CRkOpenedProjectInfo& project, const QString& blockId,
+                   const ProjectContent& content);
+    void showNothing();
+
+Q_SIGNALS:
+    /// The user wants to choose a project.
+    void projectsWanted();
+
+protected:
+    void changeEvent(QEvent* event) override;
+
+private:
+    QWidget* makeEmptyPage();
+    QWidget* makeBlockPage();
+    void addRow(QFormLayout* form);
+    void retranslate();
+    void fillTasks();
+    QString blockName() const;
+
+    CRkOpenedProjectInfo m_project;
+    QString m_blockId;
+    ProjectContent m_content;
+
+    QStackedWidget* m_pages = nullptr;
+    QLabel* m_emptyTitle = nullptr;
+    QLabel* m_emptyText = nullptr;
+    QPushButton* m_open = nullptr;
+    QLabel* m_projectHeading = nullptr;
+    QLabel* m_projectName = nullptr;
+    QLabel* m_blockHeading = nullptr;
+    QLabel* m_blockName = nullptr;
+    QLabel* m_tasksHeading = nullptr;
+    QLabel* m_totals = nullptr;
+    QVector<QLabel*> m_rowTitles;
+    QVector<ElidedLabel*> m_rowValues;
+    QTreeWidget* m_tasks = nullptr;
+};

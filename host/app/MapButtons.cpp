@@ -1,0 +1,85 @@
+// SPDX-FileCopyrightText: 2026 The RkBaseUI developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+
+#include "app/MapButtons.h"
+
+#include "app/HostIcons.h"
+
+#include <QEvent>
+#include <QToolButton>
+#include <QVBoxLayout>
+
+namespace {
+
+const char* const columnStyle = R"(
+QToolButton {
+    background-color: rgba(255, 255, 255, 235); border: 1px solid rgb(200, 210, 224);
+    border-radius: 4px;
+}
+QToolButton:hover { background-color: white; border-color: rgb(58, 136, 244); }
+QToolButton:pressed { background-color: rgb(222, 234, 252); }
+QToolButton:focus { border: 2px solid rgb(58, 136, 244); }
+QToolButton:disabled {
+    background-color: rgba(255, 255, 255, 150); border-color: rgb(216, 223, 233);
+}
+)";
+
+} // namespace
+
+MapButtons::MapButtons(QWidget* parent)
+    : QWidget(parent)
+{
+    using HostIcons::Shape;
+    struct Button
+    {
+        Shape shape;
+        void (MapButtons::*clicked)();
+    };
+    auto* layout = new QVBoxLayout(this);
+    layout->setContentsMargins(0, 0, 0, 0);
+    layout->setSpacing(6);
+    for (const Button& made : {Button{Shape::Plus, &MapButtons::zoomInClicked},
+                               Button{Shape::Minus, &MapButtons::zoomOutClicked},
+                               Button{Shape::Block, &MapButtons::blockClicked},
+                               Button{Shape::Project, &MapButtons::projectClicked},
+                               Button{Shape::Country, &MapButtons::countryClicked}}) {
+        auto* button = new QToolButton(this);
+        button->setIcon(HostIcons::icon(made.shape, QColor(44, 60, 90)));
+        button->setIconSize(QSize(20, 20));
+        button->setFixedSize(34, 34);
+        button->setCursor(Qt::PointingHandCursor);
+        connect(button, &QToolButton::clicked, this, made.clicked);
+        layout->addWidget(button);
+        m_buttons.append(button);
+    }
+    layout->insertSpacing(2, 8); // Between the zoom and the places to go to.
+    setStyleSheet(QString::fromLatin1(columnStyle));
+    retranslate();
+}
+
+void MapButtons::setBlockEnabled(bool isEnabled)
+{
+    m_buttons[2]->setEnabled(isEnabled);
+}
+
+void MapButtons::setProjectEnabled(bool isEnabled)
+{
+    m_buttons[3]->setEnabled(isEnabled);
+}
+
+void MapButtons::changeEvent(QEvent* event)
+{
+    if (event->type() == QEvent::LanguageChange)
+        retranslate();
+    QWidget::changeEvent(event);
+}
+
+void MapButtons::retranslate()
+{
+    const QStringList texts = {tr("Zoom in"), tr("Zoom out"), tr("Show the block"),
+                               tr("Show all blocks of the project"), tr("Show the whole country")};
+    for (int i = 0; i < m_buttons.size(); ++i) {
+        m_buttons[i]->setToolTip(texts[i]);
+        m_buttons[i]->setAccessibleName(texts[i]);
+    }
+}
