@@ -128,7 +128,8 @@ int main(int argc, char* argv[])
 
     useProjects(few);
     const double listing = bench::medianSeconds(runs, [] { viewAlone(); });
-    met = bench::report("a key to fewer tiles / list 150", 5000, fewer[runs / 2], listing, 1) && met;
+    met =
+        bench::report("a key to fewer tiles / list 150", 5000, fewer[runs / 2], listing, 1) && met;
     met = bench::report("a key to all tiles / list 150", 5000, more[runs / 2], listing, 1) && met;
     return met ? 0 : 1;
 }

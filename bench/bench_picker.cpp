@@ -14,8 +14,11 @@
 #include <QPushButton>
 #include <QWindow>
 
+#include <algorithm>
+#include <cstdio>
 #include <cstdlib>
 #include <memory>
+#include <vector>
 
 namespace {
 
@@ -108,11 +111,11 @@ bool compareShowings()
     const double first = bench::medianSeconds(1, [&] { showAndHide(picker); });
     const double second = bench::medianSeconds(1, [&] { showAndHide(picker); });
     const double early = bench::medianSeconds(runs, [&] { showAndHide(picker); });
-    const int buttons = picker.findChildren<QObject*>().size();
+    const int objects = picker.findChildren<QObject*>().size();
     for (int i = 0; i < showings; ++i)
         showAndHide(picker);
     const double late = bench::medianSeconds(runs, [&] { showAndHide(picker); });
-    if (picker.findChildren<QObject*>().size() != buttons)
+    if (picker.findChildren<QObject*>().size() != objects)
         std::abort();
     bool met = bench::report("second showing / first", 1, second, first, 1.0);
     met = bench::report("showings after 140 / first 40", showings, late, early, 1.2) && met;

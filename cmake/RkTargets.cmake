@@ -61,6 +61,7 @@ endfunction()
 # As qt5_wrap_ui, without the search for slots by their names in every new form: all connections are
 # made in the classes, and the city picker holds dozens of forms.
 function(rk_wrap_forms variable)
+    set(headers "")
     foreach(form IN LISTS ARGN)
         get_filename_component(name "${form}" NAME_WE)
         set(header "${CMAKE_CURRENT_BINARY_DIR}/ui_${name}.h")

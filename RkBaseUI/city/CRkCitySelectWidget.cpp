@@ -21,6 +21,7 @@
 #include <QTabBar>
 
 #include <algorithm>
+#include <initializer_list>
 
 namespace {
 
@@ -66,19 +67,15 @@ QVBoxLayout* pageLayout(QWidget* contents, const QString& name)
     return layout;
 }
 
-/// The buttons follow their parent in the order of the tab key.
 template <typename Slot>
 void addButtons(QWidget* parent, const QStringList& texts, CRkCitySelectWidget* receiver, Slot slot)
 {
     auto* layout = new FlowLayout(parent, 0, 0, 2);
-    QWidget* previous = parent;
     for (const QString& text : texts) {
         auto* button = new PlaceButton(text, parent);
         button->setMinimumWidth(24);
         QObject::connect(button, &QPushButton::clicked, receiver, slot);
         layout->addWidget(button);
-        QWidget::setTabOrder(previous, button);
-        previous = button;
     }
 }
 
@@ -118,6 +115,7 @@ CRkCitySelectWidget::CRkCitySelectWidget(QWidget* parent)
     _addCityPages();
     new FlowLayout(m_ui->scrollAreaWidgetContentsSearchResult, 8, 16, 10);
     _connectButtons();
+    _setTabOrder();
 
     const QString stored = citySettings().value(defaultCityKey()).toString();
     m_ui->labelCurrentCity->setText(stored.isEmpty() ? tr("All") : stored);
@@ -294,4 +292,21 @@ void CRkCitySelectWidget::_connectButtons()
             &CRkCitySelectWidget::slotButtonSearchCityClicked);
     connect(this, &CRkCitySelectWidget::signalCitySelected, this,
             &CRkCitySelectWidget::slotCitySelected);
+}
+
+void CRkCitySelectWidget::_setTabOrder()
+{
+    // The buttons made here come behind those of the form, which is right but for the first row.
+    const QLayout& firstRow = *m_ui->widgetFrequentCities->layout();
+    QWidget* previous = firstRow.itemAt(firstRow.count() - 1)->widget();
+    const std::initializer_list<QWidget*> rows = {m_ui->pushButtonGroupCityByProvince,
+                                                  m_ui->pushButtonGroupCityByLetter,
+                                                  m_ui->lineEditSearchCity,
+                                                  m_ui->pushButtonSearchCity,
+                                                  m_ui->pushButtonSetDefaultCity,
+                                                  m_ui->tabWidget->tabBar()};
+    for (QWidget* widget : rows) {
+        setTabOrder(previous, widget);
+        previous = widget;
+    }
 }

@@ -41,6 +41,7 @@ public:
     QString getDefaultSelection() const;
 
 public Q_SLOTS:
+    /// Show the provinces, or the cities by index letter, and say so in the empty search field.
     void slotButtonGroupCityByProvinceClicked();
     void slotButtonGroupCityByLetterClicked();
 
@@ -62,8 +63,9 @@ public Q_SLOTS:
     void slotButtonSetDefaultCityClicked();
 
 Q_SIGNALS:
-    /// The user picked a place, or the translated "All".
+    /// The user picked a place, or the translated "All". It is the current pick already.
     void signalCitySelected(const QString& city);
+    /// The window was closed, also by a click beside the popup; not when it is only hidden.
     void signalWidgetClosed();
 
 protected:
@@ -76,6 +78,7 @@ private:
     void _addCityPages();
     void _addFrequentCities();
     void _connectButtons();
+    void _setTabOrder();
 
     const std::unique_ptr<Ui::CRkCitySelectWidget> m_ui;
     /// In the order of the catalogue's province names.

@@ -72,8 +72,11 @@ void PlaceButton::drawButton(QStylePainter& painter, QStyleOptionButton& option)
 
 void preparePlaceList(QWidget& list)
 {
-    // The application's own, with whatever stands in for characters that it lacks.
+    // The application's own, with whatever stands in for characters that it lacks. The families are
+    // set although they are there: otherwise the list takes those of the window.
     QFont font = QApplication::font();
+    font.setFamily(font.family());
+    font.setFamilies(font.families());
     font.setPointSize(8);
     font.setWeight(QFont::Normal);
     font.setItalic(false);

@@ -36,6 +36,7 @@ public Q_SLOTS:
     void slotCityButtonClicked();
 
 Q_SIGNALS:
+    /// The user picked a city of the page.
     void signalCitySelected(const QString& city);
 
 private:

@@ -39,6 +39,7 @@ public Q_SLOTS:
     void slotCityButtonClicked();
 
 Q_SIGNALS:
+    /// The user picked the province or one of its cities.
     void signalCitySelected(const QString& place);
 
 private:

@@ -47,15 +47,16 @@ CRkProjectManagerDialog::~CRkProjectManagerDialog() = default;
 
 void CRkProjectManagerDialog::switchPage(bool projectPage)
 {
-    m_ui->stackedWidget->setCurrentWidget(projectPage ? static_cast<QWidget*>(m_ui->pageProjectManager)
-                                                      : m_ui->pageBlockManager);
+    if (projectPage)
+        m_ui->stackedWidget->setCurrentWidget(m_ui->pageProjectManager);
+    else
+        m_ui->stackedWidget->setCurrentWidget(m_ui->pageBlockManager);
 }
 
 void CRkProjectManagerDialog::SetIcon(QString path)
 {
     m_ui->labelIcon->setStyleSheet(
-        QStringLiteral(
-            "\t\tQLabel\t\t{\t\t\tbackground-image: url(%1);\t\t\tborder:0;\t\t}")
+        QStringLiteral("\t\tQLabel\t\t{\t\t\tbackground-image: url(%1);\t\t\tborder:0;\t\t}")
             .arg(path));
 }
 
@@ -115,12 +116,11 @@ void CRkProjectManagerDialog::slotHelp()
 
 void CRkProjectManagerDialog::mousePressEvent(QMouseEvent* event)
 {
-    m_dragging = event->button() == Qt::LeftButton
-        && m_ui->widgetTitleBar->rect().contains(event->pos());
-    if (m_dragging) {
-        m_dragOffset = event->globalPos() - pos();
-        grabMouse();
-    }
+    if (event->button() != Qt::LeftButton || !m_ui->widgetTitleBar->rect().contains(event->pos()))
+        return;
+    m_dragging = true;
+    m_dragOffset = event->globalPos() - pos();
+    grabMouse();
 }
 
 void CRkProjectManagerDialog::mouseMoveEvent(QMouseEvent* event)

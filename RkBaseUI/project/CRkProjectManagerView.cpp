@@ -20,13 +20,16 @@
 #include <RkAlgorthm/RkAlgorthm.h>
 #include <RkData/RkData.h>
 
+#include <QApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QGraphicsScene>
 #include <QMouseEvent>
 #include <QPointer>
+#include <QScopeGuard>
 #include <QScrollBar>
+#include <QTimer>
 
 #include <algorithm>
 
@@ -53,7 +56,7 @@ QString baseName(const CRkGraphicsProjectRectItem* tile)
 
 CRkProjectManagerView::CRkProjectManagerView(QWidget* parent)
     : QGraphicsView(parent)
-    , m_scene(std::make_unique<QGraphicsScene>())
+    , m_scene(std::make_shared<QGraphicsScene>())
 {
     // The tiles grow far beyond the scene rectangle, where an index tree has no leaves of its own.
     m_scene->setItemIndexMethod(QGraphicsScene::NoIndex);
@@ -119,8 +122,11 @@ void CRkProjectManagerView::slotCopyProject()
 
 void CRkProjectManagerView::slotDeleteProject()
 {
+    const QPointer<CRkProjectManagerView> alive(this);
     // Otherwise the question would take the focus from an open caption and let it rename meanwhile.
     _endEditing();
+    if (!alive)
+        return;
     CRkGraphicsProjectRectItem* tile = _getSelectedProjectItem();
     if (!tile) {
         WarningBox::show(tr("Delete Project"), tr("Please select a project to delete."));
@@ -128,7 +134,6 @@ void CRkProjectManagerView::slotDeleteProject()
     }
     if (!m_tiles.contains(tile))
         return;
-    const QPointer<CRkProjectManagerView> alive(this);
     if (!WarningBox::confirm(tr("Delete Project"),
                              tr("confirm delete \"") + tile->GetProjectName() + tr("\"?"))
         || !alive)
@@ -151,8 +156,10 @@ void CRkProjectManagerView::slotFilterConditionChanged(const QString& cityCondit
                                                        const QString& /*sourceCondition*/,
                                                        const QString& keywordCondition)
 {
-    // Before the tiles are touched.
-    _endEditing();
+    const QPointer<CRkProjectManagerView> alive(this);
+    _endEditing(); // Before the tiles are touched.
+    if (!alive)
+        return;
 
     const ProjectFilter filter({cityCondition, dateCondition, keywordCondition},
                                {tr("date"), tr("to"), tr("city"), tr("all")});
@@ -189,8 +196,13 @@ void CRkProjectManagerView::slotRenameProjectItem(const QString& newName)
     if (!tile)
         return;
 
-    // The view may go while a message is up.
+    // The view may go while a message is up. Its scene must not before the event is over that took
+    // the focus from the caption.
     const QPointer<CRkProjectManagerView> alive(this);
+    const auto keepScene = qScopeGuard([scene = m_scene, &alive] {
+        if (!alive)
+            QTimer::singleShot(0, qApp, [scene] {});
+    });
     if (QString(newName).remove(QLatin1Char(' ')).isEmpty()) {
         WarningBox::show(tr("Rename Project"), tr("You must type a project name."));
         if (!alive)
@@ -368,7 +380,8 @@ void CRkProjectManagerView::_open(const CRkGraphicsProjectRectItem* tile)
 
 void CRkProjectManagerView::_endEditing()
 {
-    m_scene->setFocusItem(nullptr);
+    const std::shared_ptr<QGraphicsScene> scene = m_scene; // A message of the rename may end both.
+    scene->setFocusItem(nullptr);
 }
 
 void CRkProjectManagerView::_UnSelectOtherItem(CRkGraphicsProjectRectItem* tile)

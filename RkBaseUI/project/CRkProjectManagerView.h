@@ -106,7 +106,7 @@ private:
     bool _existName(const QString& name) const;
     QString _getUniqueProjcetName(const QString& base) const;
 
-    std::unique_ptr<QGraphicsScene> m_scene;
+    std::shared_ptr<QGraphicsScene> m_scene; ///< Shared with events that outlive the view.
     /// All tiles in the order of their making.
     QList<CRkGraphicsProjectRectItem*> m_tiles;
     /// Those that passed the last filter, and newer ones.

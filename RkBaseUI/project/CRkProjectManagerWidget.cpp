@@ -64,7 +64,9 @@ void CRkProjectManagerWidget::SetProjectName(const QString& name)
     m_selectedProjectName = name;
 }
 
-void CRkProjectManagerWidget::OpenSpecifiedProject(const QString& /*project*/) {}
+void CRkProjectManagerWidget::OpenSpecifiedProject(const QString& /*project*/)
+{
+}
 
 void CRkProjectManagerWidget::loadDefaultContiditions()
 {

@@ -24,6 +24,7 @@
 #include <QScrollBar>
 #include <QSettings>
 #include <QSignalSpy>
+#include <QTabBar>
 #include <QTabWidget>
 #include <QTest>
 
@@ -152,6 +153,9 @@ private slots:
     void texts();
     void looks_data() { addScales(); }
     void looks();
+    void textColours_data();
+    void textColours();
+    void tabKeyFollowsTheForm();
     void letterRows();
     void provincePages();
     void cityPages();
@@ -168,6 +172,7 @@ private slots:
     void pickingStoresNothing();
     void pick_data();
     void pick();
+    void pickIsCurrentWhenItIsTold();
     void selectionSurvivesShowings();
     void slotsWithoutAButtonDoNothing();
 
@@ -283,6 +288,65 @@ void tst_CRkCitySelectWidget::looks()
         QCOMPARE(colorAt(image, button.mapTo(&picker, QPoint(button.width() / 2, 3))),
                  QColor(58, 136, 244));
     }
+}
+
+void tst_CRkCitySelectWidget::textColours_data()
+{
+    QTest::addColumn<QString>("list");
+    QTest::addColumn<QColor>("colour");
+    QTest::newRow("frequent cities") << "widgetFrequentCities" << QColor(0, 51, 153);
+    QTest::newRow("action buttons") << "groupBox" << QColor(Qt::white);
+    QTest::newRow("city letters") << "widgetByCityLetters" << QColor(46, 109, 255);
+    QTest::newRow("cities") << "scrollAreaWidgetContentsByCity" << QColor(58, 136, 244);
+    QTest::newRow("search results")
+        << "scrollAreaWidgetContentsSearchResult" << QColor(58, 136, 244);
+}
+
+void tst_CRkCitySelectWidget::textColours()
+{
+    QFETCH(QString, list);
+    QFETCH(QColor, colour);
+    Picker picker;
+    picker.search("jiang");
+    QPushButton& button = *picker.buttonsIn(list).first();
+    button.setText(QString(20, QChar(0x2588)));
+    const QImage image = rendered(button, 1);
+    int pixels = 0;
+    for (int x = 0; x < image.width(); ++x) {
+        for (int y = 0; y < image.height(); ++y)
+            pixels += image.pixelColor(x, y) == colour;
+    }
+    QVERIFY2(pixels > 150, qPrintable(QString::number(pixels)));
+}
+
+void tst_CRkCitySelectWidget::tabKeyFollowsTheForm()
+{
+    Picker picker;
+    QVERIFY(picker.showAsPopup());
+    picker.activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(&picker));
+    const auto frequent = picker.buttonsIn("widgetFrequentCities");
+    const auto letters = picker.buttonsIn("widgetByProvinceLetters");
+    QList<QWidget*> order;
+    for (QPushButton* button : frequent)
+        order.append(button);
+    for (const char* name :
+         {"pushButtonGroupCityByProvince", "pushButtonGroupCityByLetter", "lineEditSearchCity",
+          "pushButtonSearchCity", "pushButtonSetDefaultCity", "qt_tabwidget_tabbar"})
+        order.append(&picker.part(name));
+    for (QPushButton* button : letters)
+        order.append(button);
+    order.append(picker.buttonsIn("scrollAreaWidgetContentsByProvince").first());
+    order.first()->setFocus();
+    for (QWidget* widget : order) {
+        QCOMPARE(QApplication::focusWidget(), widget);
+        QTest::keyClick(widget, Qt::Key_Tab);
+    }
+    picker.search("jiang");
+    picker.tabs().tabBar()->setFocus();
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Tab);
+    QCOMPARE(QApplication::focusWidget(),
+             picker.buttonsIn("scrollAreaWidgetContentsSearchResult").first());
 }
 
 void tst_CRkCitySelectWidget::letterRows()
@@ -469,6 +533,18 @@ void tst_CRkCitySelectWidget::pick()
     QCOMPARE(selected[0][0].toString(), button.text());
     QCOMPARE(picker.current(), button.text());
     QCOMPARE(picker.getDefaultSelection(), button.text());
+}
+
+void tst_CRkCitySelectWidget::pickIsCurrentWhenItIsTold()
+{
+    Picker picker;
+    QString current;
+    connect(&picker, &CRkCitySelectWidget::signalCitySelected,
+            [&] { current = picker.getDefaultSelection(); });
+    picker.buttonsIn("widgetFrequentCities")[2]->click();
+    QCOMPARE(current, QString("Shanghai"));
+    picker.buttonsIn("scrollAreaWidgetContentsByCity")[0]->click();
+    QCOMPARE(current, picker.buttonsIn("scrollAreaWidgetContentsByCity")[0]->text());
 }
 
 void tst_CRkCitySelectWidget::selectionSurvivesShowings()

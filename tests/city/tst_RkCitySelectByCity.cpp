@@ -35,6 +35,7 @@ private slots:
     void empty();
     void letter();
     void cityButtons();
+    void fontIsSmallWhateverTheApplicationHas_data();
     void fontIsSmallWhateverTheApplicationHas();
     void clickSelectsTheCity();
     void slotWithoutAButtonDoesNothing();
@@ -80,10 +81,17 @@ void tst_RkCitySelectByCity::cityButtons()
     }
 }
 
+void tst_RkCitySelectByCity::fontIsSmallWhateverTheApplicationHas_data()
+{
+    QTest::addColumn<QFont>("large");
+    QTest::newRow("family set") << QFont("Serif");
+    QTest::newRow("family left") << QFont();
+}
+
 void tst_RkCitySelectByCity::fontIsSmallWhateverTheApplicationHas()
 {
+    QFETCH(QFont, large);
     const QFont before = QApplication::font();
-    QFont large = before;
     large.setPointSize(17);
     large.setBold(true);
     large.setItalic(true);
@@ -91,6 +99,7 @@ void tst_RkCitySelectByCity::fontIsSmallWhateverTheApplicationHas()
     {
         QWidget window;
         QFont other("Courier", 20);
+        other.setFamilies({"Courier", "Serif"});
         window.setFont(other);
         auto* page = new RkCitySelectByCity(&window);
         page->SetCities({"Chengdu"});
@@ -99,6 +108,7 @@ void tst_RkCitySelectByCity::fontIsSmallWhateverTheApplicationHas()
         QCOMPARE(font.weight(), int(QFont::Normal));
         QVERIFY(!font.italic());
         QCOMPARE(font.family(), large.family());
+        QCOMPARE(font.families(), large.families());
     }
     QApplication::setFont(before);
 }

@@ -92,7 +92,12 @@ public slots:
     void open(const QUrl& page) { pages.append(page); }
 };
 
+/// What a person does with the dialog that ends a rename.
+using EndRename = void (*)(const Dialog&);
+
 } // namespace
+
+Q_DECLARE_METATYPE(EndRename)
 
 class tst_CRkProjectManagerDialog : public QObject
 {
@@ -135,12 +140,16 @@ private slots:
     void pressElsewhereDoesNotDrag_data();
     void pressElsewhereDoesNotDrag();
     void otherButtonDoesNotDrag();
+    void secondButtonKeepsTheDrag();
     void mouseIsGrabbedDuringADrag();
     void dragEndsWithTheDialog();
 
     void closedDuringARename();
+    void deletedDuringARename();
     void closedDuringAMessage();
     void deletedOnCloseDuringAMessage();
+    void deletedOnCloseDuringTheMessageOfARename_data();
+    void deletedOnCloseDuringTheMessageOfARename();
     void closedWhileAPopupIsOpen_data();
     void closedWhileAPopupIsOpen();
 
@@ -202,7 +211,8 @@ void tst_CRkProjectManagerDialog::formObjects()
     QCOMPARE(inOrder(dialog.part<QWidget>("widgetTop")), QString("verticalLayout widgetTitleBar"));
     QCOMPARE(
         inOrder(dialog.part<QWidget>("widgetTitleBar")),
-        QString("horizontalLayout_2 labelIcon labelTitle pushButtonMaxWindow pushButtonCloseWindow"));
+        QString(
+            "horizontalLayout_2 labelIcon labelTitle pushButtonMaxWindow pushButtonCloseWindow"));
     QCOMPARE(dialog.getProjectManagerWidget()->objectName(), projectPage);
     QCOMPARE(dialog.getBlockManagerWidget()->objectName(), blockPage);
     QCOMPARE(dialog.part<QStackedWidget>("stackedWidget").widget(0),
@@ -294,7 +304,8 @@ void tst_CRkProjectManagerDialog::returnKeyPressesNoButton()
     dialog.show();
     for (const QPushButton* button : dialog.findChildren<QPushButton*>())
         QVERIFY2(!button->autoDefault() && !button->isDefault(), qPrintable(button->objectName()));
-    QTest::keyClick(&dialog.part<QLineEdit>("lineEditSearch"), Qt::Key_Return);
+    QTest::keyClick(dialog.getProjectManagerWidget()->findChild<QLineEdit*>("lineEditSearch"),
+                    Qt::Key_Return);
     QVERIFY(dialog.isVisible());
     QCOMPARE(clicked.size(), 0);
     QVERIFY(m_answers->boxes.isEmpty());
@@ -325,7 +336,8 @@ void tst_CRkProjectManagerDialog::buttonVisibility()
     dialog.SetNewProjectButtonVisible(true);
     dialog.SetCopyProjectBtnVisible(true);
     dialog.SetDeleteProjectBtnVisible(true);
-    for (const char* const name : {"pushButtonNewProject", "m_pCopyProjectBtn", "m_pDeleteProjectBtn"})
+    for (const char* const name :
+         {"pushButtonNewProject", "m_pCopyProjectBtn", "m_pDeleteProjectBtn"})
         QVERIFY2(!dialog.button(name).isHidden(), name);
 }
 
@@ -585,6 +597,24 @@ void tst_CRkProjectManagerDialog::otherButtonDoesNotDrag()
     QTest::mouseRelease(window, Qt::RightButton, {}, QPoint(530, 26));
 }
 
+void tst_CRkProjectManagerDialog::secondButtonKeepsTheDrag()
+{
+    Dialog dialog(nullptr);
+    dialog.move(100, 120);
+    dialog.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QWindow* window = dialog.windowHandle();
+    QTest::mousePress(window, Qt::LeftButton, {}, QPoint(500, 16));
+    QTest::mousePress(window, Qt::RightButton, {}, QPoint(500, 16));
+    QTest::mouseMove(window, QPoint(530, 36));
+    QCOMPARE(dialog.pos(), QPoint(130, 140));
+    QTest::mouseRelease(window, Qt::RightButton, {}, QPoint(500, 16));
+    QTest::mouseMove(window, QPoint(540, 46)); // Any release ends it.
+    QCOMPARE(dialog.pos(), QPoint(130, 140));
+    QCOMPARE(QWidget::mouseGrabber(), nullptr);
+    QTest::mouseRelease(window, Qt::LeftButton, {}, QPoint(500, 16));
+}
+
 void tst_CRkProjectManagerDialog::mouseIsGrabbedDuringADrag()
 {
     Dialog dialog(nullptr);
@@ -628,6 +658,26 @@ void tst_CRkProjectManagerDialog::closedDuringARename()
     QVERIFY(!QFile::exists(file));
 }
 
+void tst_CRkProjectManagerDialog::deletedDuringARename()
+{
+    const QString file = hill().write(m_root);
+    auto dialog = std::make_unique<Dialog>(nullptr);
+    dialog->show();
+    dialog->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
+    CRkGraphicsProjectTextItem* caption = dialog->tile().GetTextItem();
+    dialog->view().setFocus();
+    caption->setFocus();
+    QTRY_VERIFY(caption->hasFocus());
+    caption->setPlainText("Dale");
+    dialog.reset();
+    QCoreApplication::processEvents();
+    QVERIFY(m_answers->boxes.isEmpty());
+    // Under one of both names, and whole.
+    const QString renamed = m_root + "Dale/Dale.proj";
+    QVERIFY(QFile::exists(file) != QFile::exists(renamed));
+}
+
 void tst_CRkProjectManagerDialog::closedDuringAMessage()
 {
     const QString file = hill().write(m_root);
@@ -656,6 +706,53 @@ void tst_CRkProjectManagerDialog::deletedOnCloseDuringAMessage()
     dialog->button("m_pDeleteProjectBtn").click();
     QCOMPARE(m_answers->boxes.size(), 1);
     QVERIFY(QFile::exists(file));
+}
+
+void tst_CRkProjectManagerDialog::deletedOnCloseDuringTheMessageOfARename_data()
+{
+    QTest::addColumn<QString>("typed");
+    QTest::addColumn<EndRename>("end");
+    const EndRename returnKey = [](const Dialog& dialog) {
+        QTest::keyPress(&dialog.view(), Qt::Key_Return); // Nobody is there for the release.
+    };
+    QTest::newRow("blank name, Return") << " " << returnKey;
+    QTest::newRow("taken name, Return") << "Dale" << returnKey;
+    QTest::newRow("blank name, Delete button")
+        << " "
+        << EndRename([](const Dialog& dialog) { dialog.button("m_pDeleteProjectBtn").click(); });
+    QTest::newRow("blank name, filter") << " " << EndRename([](const Dialog& dialog) {
+        dialog.getProjectManagerWidget()->slotConditionChanged();
+    });
+}
+
+void tst_CRkProjectManagerDialog::deletedOnCloseDuringTheMessageOfARename()
+{
+    QFETCH(QString, typed);
+    QFETCH(EndRename, end);
+    const QString file = hill().write(m_root);
+    const QString taken = m_root + "Dale/Dale.proj";
+    QVERIFY(writeFile(taken, "not of this user"));
+    const QPointer<Dialog> dialog = new Dialog(nullptr);
+    dialog->setAttribute(Qt::WA_DeleteOnClose);
+    dialog->show();
+    dialog->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    CRkGraphicsProjectTextItem* caption = dialog->tile().GetTextItem();
+    const QPointer<QGraphicsScene> scene = caption->scene();
+    dialog->view().setFocus();
+    caption->setFocus();
+    QTRY_VERIFY(caption->hasFocus());
+    caption->setPlainText(typed);
+    m_answers->beforeAnswer = [&dialog] {
+        dialog->close();
+        QTRY_VERIFY(!dialog);
+    };
+    end(*dialog);
+    QVERIFY(!dialog);
+    QTRY_VERIFY(!scene);
+    QCOMPARE(m_answers->boxes.size(), 1);
+    QVERIFY(QFile::exists(file));
+    QCOMPARE(readFile(taken), QByteArray("not of this user"));
 }
 
 void tst_CRkProjectManagerDialog::closedWhileAPopupIsOpen_data()

@@ -99,6 +99,7 @@ private slots:
     void newButton();
     void copyButton();
     void deleteButton();
+    void searchButton();
     void buttonVisibility_data();
     void buttonVisibility();
 
@@ -200,8 +201,9 @@ void tst_CRkProjectManagerWidget::toolBarOrder()
     QStringList names;
     for (int i = 0; i < toolBar->count(); ++i)
         names.append(toolBar->itemAt(i)->widget()->objectName());
-    QCOMPARE(names.join(' '), QString("pushButtonNewProject m_pCopyProjectBtn m_pDeleteProjectBtn "
-                                      "m_pCityDateSelectWidget lineEditSearch pushButtonSearch"));
+    QCOMPARE(names.join(' '),
+             QString("pushButtonNewProject m_pCopyProjectBtn m_pDeleteProjectBtn "
+                     "m_pCityDateSelectWidget lineEditSearch pushButtonSearch"));
 }
 
 void tst_CRkProjectManagerWidget::keyboardOrder()
@@ -270,6 +272,17 @@ void tst_CRkProjectManagerWidget::deleteButton()
     QCOMPARE(m_answers->boxes.size(), 1);
     QCOMPARE(m_answers->boxes.first().title, QString("Delete Project"));
     QCOMPARE(page.names(), QString());
+}
+
+void tst_CRkProjectManagerWidget::searchButton()
+{
+    // Every change of the text has filtered already.
+    Page page;
+    page.search().setText("hill");
+    const QSignalSpy changed(&page, &CRkProjectManagerWidget::filterConditionChanged);
+    page.part<QPushButton>("pushButtonSearch").click();
+    QCOMPARE(changed.size(), 0);
+    QCOMPARE(page.search().text(), QString("hill"));
 }
 
 void tst_CRkProjectManagerWidget::buttonVisibility_data()
@@ -388,12 +401,18 @@ void tst_CRkProjectManagerWidget::hostileKeywords_data()
 {
     QTest::addColumn<QString>("keyword");
     QTest::addColumn<QString>("names");
-    QTest::newRow("quote") << "'" << "Miller's field";
-    QTest::newRow("per cent") << "%" << "100 % cover";
-    QTest::newRow("argument mark") << "%1" << "";
-    QTest::newRow("statement") << "' or '1'='1" << "";
-    QTest::newRow("wildcards") << ".*" << "";
-    QTest::newRow("blank") << " " << "100 % cover,Miller's field";
+    QTest::newRow("quote") << "'"
+                           << "Miller's field";
+    QTest::newRow("per cent") << "%"
+                              << "100 % cover";
+    QTest::newRow("argument mark") << "%1"
+                                   << "";
+    QTest::newRow("statement") << "' or '1'='1"
+                               << "";
+    QTest::newRow("wildcards") << ".*"
+                               << "";
+    QTest::newRow("blank") << " "
+                           << "100 % cover,Miller's field";
     QTest::newRow("very long") << QString(30000, 'x') << "";
 }
 
@@ -450,9 +469,23 @@ void tst_CRkProjectManagerWidget::defaultConditions_data()
     QTest::addColumn<QString>("stored");
     QTest::addColumn<QString>("city");
     QTest::addColumn<QString>("names");
-    QTest::newRow("none") << QString() << "All" << "Nowhere,River";
-    QTest::newRow("city") << "Chengdu" << "Chengdu" << "River";
-    QTest::newRow("city that is no more") << "Atlantis" << "Atlantis" << "";
+    QTest::newRow("none") << QString() << "All"
+                          << "Nowhere,River";
+    QTest::newRow("city") << "Chengdu"
+                          << "Chengdu"
+                          << "River";
+    QTest::newRow("city that is no more") << "Atlantis"
+                                          << "Atlantis"
+                                          << "";
+    QTest::newRow("date by hand") << "2026-05-03"
+                                  << "2026-05-03"
+                                  << "";
+    QTest::newRow("range by hand") << "2026-5-3 to x"
+                                   << "2026-5-3 to x"
+                                   << "";
+    QTest::newRow("marks") << "%1 '\"<b>"
+                           << "%1 '\"<b>"
+                           << "";
     QTest::newRow("in another language") << QStringLiteral("\u6210\u90fd") //
                                          << QStringLiteral("\u6210\u90fd") << "River";
 }

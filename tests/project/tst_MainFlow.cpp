@@ -8,51 +8,53 @@
 
 #include "BlockFixture.h"
 #include "ProjectFixture.h"
-#include "support/BoxAnswerer.h"
 #include "support/TestSupport.h"
 
 #include <RkAlgorthm/RkAlgorthm.h>
 #include <RkBaseUI/CRkGraphicsProjectRectItem.h>
+#include <RkBaseUI/CRkMessageBox.h>
 #include <RkBaseUI/CRkProjectManagerView.h>
 #include <RkBaseUI/CRkProjectManagerWidget.h>
 #include <RkBaseUI/SharedHelpers.h>
 
+#include <QApplication>
 #include <QCalendarWidget>
-#include <QDir>
-#include <QFileInfo>
+#include <QDirIterator>
 #include <QGraphicsScene>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
-#include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTableView>
 #include <QTest>
+#include <QTimer>
+#include <QToolButton>
 #include <QTranslator>
 #include <QTreeWidget>
 #include <QWindow>
 
 #include <algorithm>
 #include <memory>
+#include <utility>
 
 namespace {
 
 using Tile = CRkGraphicsProjectRectItem;
 
-void click(QWidget& widget, QPoint at)
+void click(const QWidget& widget, QPoint at)
 {
-    QWidget* window = widget.window();
+    const QWidget* window = widget.window();
     QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, widget.mapTo(window, at));
 }
 
-void click(QWidget& widget)
+void click(const QWidget& widget)
 {
     click(widget, widget.rect().center());
 }
 
-void doubleClick(QWidget& widget, QPoint at)
+void doubleClick(const QWidget& widget, QPoint at)
 {
-    QWidget* window = widget.window();
+    const QWidget* window = widget.window();
     const QPoint place = widget.mapTo(window, at);
     QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, place);
     QTest::mouseDClick(window->windowHandle(), Qt::LeftButton, {}, place);
@@ -66,6 +68,46 @@ void clickButton(const QWidget& widget, const QString& text)
     QVERIFY2(found != buttons.end(), qPrintable(text));
     click(**found);
 }
+
+/// The content of every file below a folder, by its path there.
+QMap<QString, QByteArray> filesBelow(const QString& folder)
+{
+    QMap<QString, QByteArray> files;
+    QDirIterator file(folder, QDir::Files | QDir::Hidden, QDirIterator::Subdirectories);
+    while (file.hasNext()) {
+        const QString path = file.next();
+        files.insert(path.mid(folder.size()), readFile(path));
+    }
+    return files;
+}
+
+/// Clicks a button of every message that comes up while the object lives, and notes its texts.
+class Answerer : public QObject
+{
+public:
+    Answerer() { qApp->installEventFilter(this); }
+
+    QStringList messages;
+    QString button = QStringLiteral("m_pBtnOK");
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        auto* box = qobject_cast<CRkMessageBox*>(watched);
+        if (box && event->type() == QEvent::Show)
+            QTimer::singleShot(0, box, [this, box] { answer(*box); });
+        return false;
+    }
+
+private:
+    void answer(CRkMessageBox& box)
+    {
+        messages.append(box.windowTitle() + ": " + box.findChild<QLabel*>("TextMsg")->text());
+        if (QTest::qWaitForWindowExposed(&box))
+            click(*box.findChild<QPushButton*>(button));
+        else
+            box.reject();
+    }
+};
 
 /// The dialog as a person has it before himself.
 class Dialog : public CRkProjectManagerDialog
@@ -82,6 +124,15 @@ public:
     {
         return part<QStackedWidget>("stackedWidget").currentWidget()->objectName();
     }
+
+    /// Keys go to what has the focus.
+    void type(const char* text) const
+    {
+        for (; *text; ++text)
+            QTest::keyClick(windowHandle(), *text);
+    }
+    void type(Qt::Key key) const { QTest::keyClick(windowHandle(), key); }
+    void selectAllText() const { QTest::keyClick(windowHandle(), Qt::Key_A, Qt::ControlModifier); }
 
     CRkProjectManagerView& view() const
     {
@@ -108,27 +159,39 @@ public:
     {
         click(*view().viewport(), placeOf(name, {100, 160}));
     }
+    QImage caption(const QString& name) const
+    {
+        return view().viewport()->grab(QRect(placeOf(name, {5, 148}), QSize(190, 32))).toImage();
+    }
     void openProject(const QString& name) const
     {
         doubleClick(*view().viewport(), placeOf(name, {60, 60}));
     }
+
+    QTreeWidget& blocks() const { return part<QTreeWidget>("treeWidgetBlocks"); }
     void openBlock(int row) const
     {
-        auto& tree = part<QTreeWidget>("treeWidgetBlocks");
-        doubleClick(*tree.viewport(), tree.visualItemRect(tree.topLevelItem(row)).center());
+        doubleClick(*blocks().viewport(),
+                    blocks().visualItemRect(blocks().topLevelItem(row)).center());
     }
     QString blockNames() const
     {
-        const auto& tree = part<QTreeWidget>("treeWidgetBlocks");
         QStringList names;
-        for (int i = 0; i < tree.topLevelItemCount(); ++i)
-            names.append(tree.topLevelItem(i)->text(0));
+        for (int i = 0; i < blocks().topLevelItemCount(); ++i)
+            names.append(blocks().topLevelItem(i)->text(0));
         return names.join(' ');
+    }
+    /// The name of the block in a row, as it is painted.
+    QImage blockPicture(int row) const
+    {
+        QRect area = blocks().visualItemRect(blocks().topLevelItem(row));
+        area.setWidth(blocks().columnWidth(0));
+        return blocks().viewport()->grab(area).toImage();
     }
 
     /// The names of the projects in reading order, each found on the screen by the colour of its
     /// thumbnail: the left half of the picture at the tile's place. "?" for any other colour.
-    QString seen(const QMap<QRgb, QString>& nameOfColour) const
+    QStringList seen(const QMap<QRgb, QString>& nameOfColour) const
     {
         const QImage screen = view().viewport()->grab().toImage();
         QStringList names;
@@ -137,7 +200,7 @@ public:
             const QPoint at =
                 view().mapFromScene(45 + index % 4 * 210, 70 + index / 4 * 220); // Four in a row.
             if (!screen.rect().contains(at) || screen.pixel(at) == qRgb(240, 240, 240))
-                return names.join(',');
+                return names;
             names.append(nameOfColour.value(screen.pixel(at), QStringLiteral("?")));
         }
     }
@@ -146,6 +209,7 @@ public:
 constexpr QRgb red = qRgb(200, 40, 40);
 constexpr QRgb green = qRgb(40, 160, 60);
 constexpr QRgb blue = qRgb(50, 80, 200);
+constexpr QRgb yellow = qRgb(220, 200, 30);
 
 } // namespace
 
@@ -158,35 +222,78 @@ private slots:
     void init();
     void cleanup();
 
-    void filters();
-    void dateRange();
-    void operations();
-    void blocks();
+    void wholeFlow();
 
 private:
+    void filterByCity();
+    void filterByDate();
+    void filterByDateRange();
+    void filterByKeyword();
+    void createProject();
+    void renameProject();
+    void copyProject();
+    void deleteProject();
+    void openProject();
+    void searchBlocks();
+    void sortBlocks();
+    void goBack();
+    void openBlock();
+
     /// A text of the library in the language of the row.
     static QString text(const char* context, const char* source)
     {
         return QCoreApplication::translate(context, source);
     }
+    QString file(const QString& name) const { return m_root + name + '/' + name + ProjectSuffix; }
+    QString newName() const { return text("CRkProjectManagerView", "New Project"); }
+    QString copyName() const { return text("CRkProjectManagerView", "copy of ") + "River"; }
+    QString all() const { return text("CRkCityDateFilterWidget", "All"); }
+    QString noDate() const { return text("CRkCityDateFilterWidget", "Date"); }
+
     void writeProjects() const;
     void show();
+    void listenTo(Dialog& dialog);
     QWidget* openPopup(const char* button) const;
-    QString seen() const { return m_dialog->seen(m_names); }
+    static void clickDay(const QWidget& page, QDate day);
+
+    QStringList seen() const { return m_dialog->seen(m_names); }
+    QStringList seenSorted() const
+    {
+        QStringList names = seen();
+        names.sort();
+        return names;
+    }
+    /// What was told since the last call, in order.
+    QStringList takeTold() { return std::exchange(m_told, {}); }
+    static QString filtered(const QString& city, const QString& date, const QString& keyword)
+    {
+        return QStringList{"filtered", city, date, QString(), keyword}.join('|');
+    }
+    /// Whether no file has changed since the last step that changes any.
+    bool filesAreUntouched() const { return filesBelow(m_root) == m_files; }
 
     std::unique_ptr<TestHome> m_home;
     std::unique_ptr<QTranslator> m_translator;
-    std::unique_ptr<BoxAnswerer> m_answers;
+    std::unique_ptr<Answerer> m_answers;
     std::unique_ptr<Dialog> m_dialog;
-    QMap<QRgb, QString> m_names = {{red, "Hill"}, {green, "River"}, {blue, "Port"}};
+    const QMap<QRgb, QString> m_names = {
+        {red, "Hill"}, {green, "River"}, {blue, "Port"}, {yellow, "Field"}};
+    const QStringList m_everything = {"Field", "Hill", "Port", "River"};
     QString m_root;
+    QDateTime m_now;
+    QStringList m_told;
+    QMap<QString, QByteArray> m_files;
+    QVector<QImage> m_blockPictures;
+    CRkOpenedProjectInfo m_received;
 };
 
 void tst_MainFlow::initTestCase_data()
 {
     QTest::addColumn<QString>("translation");
-    QTest::newRow("English") << QString();
-    QTest::newRow("Chinese") << QStringLiteral("RkBaseUI_zh_CN");
+    QTest::addColumn<QString>("title");
+    QTest::newRow("English") << QString() << "Open Project";
+    QTest::newRow("Chinese") << QStringLiteral("RkBaseUI_zh_CN")
+                             << QStringLiteral("\u6253\u5f00\u9879\u76ee");
 }
 
 void tst_MainFlow::init()
@@ -195,12 +302,14 @@ void tst_MainFlow::init()
     m_home = std::make_unique<TestHome>();
     m_home->setCurrentUserId("user-1");
     m_root = m_home->projectRoot();
+    m_now = QDateTime::currentDateTime();
     if (!translation.isEmpty()) {
         m_translator.reset(CreateTranslator(translation));
         QVERIFY(QCoreApplication::installTranslator(m_translator.get()));
     }
-    m_answers = std::make_unique<BoxAnswerer>();
+    m_answers = std::make_unique<Answerer>();
     writeProjects();
+    m_files = filesBelow(m_root);
     show();
 }
 
@@ -214,29 +323,69 @@ void tst_MainFlow::cleanup()
 
 void tst_MainFlow::writeProjects() const
 {
+    const auto daysAgo = [this](int days) {
+        return m_now.addDays(-days).toString(DateTimeSFormat);
+    };
     ProjectFixture hill{"Hill"};
     hill.imageData = thumbnailText(red);
-    hill.modified = "2026-05-03 12:00:00";
+    hill.modified = daysAgo(50);
     ProjectFixture river{"River"};
     river.imageData = thumbnailText(green);
-    river.modified = "2026-06-15 23:59:59";
+    river.modified = daysAgo(20);
     river.outlines.append(squareAround(30.66, 104.06)); // Chengdu.
     ProjectFixture port{"Port"};
     port.imageData = thumbnailText(blue);
-    port.modified = QDateTime::currentDateTime().toString(DateTimeSFormat);
+    port.modified = daysAgo(0);
     port.outlines.append(squareAround(39.9, 116.4)); // Beijing.
     for (const ProjectFixture& project : {hill, river, port})
         QVERIFY(!project.write(m_root).isEmpty());
+
+    BlockFixture field{"Field"};
+    field.modified = daysAgo(200);
+    field.blocks = {{"b1", "south", {{"t1", 2}}},
+                    {"b2", "north", {{"t2", 5}, {"t3", 0}}, "VTOL Light"}};
+    const QString file = field.write(m_root);
+    QVERIFY(runSql(file,
+                   {"UPDATE " + ProjectTableName + " SET image_data='"
+                    + QString::fromLatin1(thumbnailText(yellow)) + '\''}));
 }
 
 void tst_MainFlow::show()
 {
     m_dialog = std::make_unique<Dialog>();
+    listenTo(*m_dialog);
     m_dialog->getProjectManagerWidget()->loadDefaultContiditions();
     m_dialog->move(100, 100);
     m_dialog->show();
     m_dialog->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+}
+
+void tst_MainFlow::listenTo(Dialog& dialog)
+{
+    m_told.clear();
+    m_received = {};
+    const CRkProjectManagerWidget* page = dialog.getProjectManagerWidget();
+    connect(page, &CRkProjectManagerWidget::filterConditionChanged, this,
+            [this](const QString& city, const QString& date, const QString& source,
+                   const QString& keyword) {
+                m_told.append(QStringList{"filtered", city, date, source, keyword}.join('|'));
+            });
+    connect(&dialog.view(), &CRkProjectManagerView::projectRenamed, this,
+            [this] { m_told.append("renamed"); });
+    connect(&dialog.view(), &CRkProjectManagerView::projectCopied, this,
+            [this] { m_told.append("copied"); });
+    connect(&dialog, &CRkProjectManagerDialog::projectOpened, this,
+            [this](const QString& project) { m_told.append("project " + project); });
+    connect(&dialog, &CRkProjectManagerDialog::backToProjectView, this,
+            [this] { m_told.append("back"); });
+    // As a host does.
+    connect(&dialog, &CRkProjectManagerDialog::blockOpened, this,
+            [this, &dialog](const QString& block) {
+                m_told.append("block " + block);
+                m_received = dialog.getOpenedProjectInfo();
+                dialog.accept();
+            });
 }
 
 QWidget* tst_MainFlow::openPopup(const char* button) const
@@ -246,188 +395,309 @@ QWidget* tst_MainFlow::openPopup(const char* button) const
     return popup && QTest::qWaitForWindowExposed(popup) ? popup : nullptr;
 }
 
-void tst_MainFlow::filters()
+/// Turns the pages of the date popup's calendar to the day and clicks on it.
+void tst_MainFlow::clickDay(const QWidget& page, QDate day)
 {
-    QSignalSpy changed(m_dialog->getProjectManagerWidget(),
-                       &CRkProjectManagerWidget::filterConditionChanged);
-    const QString all = text("CRkCityDateFilterWidget", "All");
-    const QString noDate = text("CRkCityDateFilterWidget", "Date");
-    QCOMPARE(m_dialog->label("m_pLblCity"), all);
-    QCOMPARE(m_dialog->label("m_pLblDate"), noDate);
-    QCOMPARE(seen().count(','), 2);
+    const auto* calendar = page.findChild<QCalendarWidget*>("m_pCalendarWidget");
+    const auto shown = [calendar] {
+        return QDate(calendar->yearShown(), calendar->monthShown(), 1);
+    };
+    const QDate month(day.year(), day.month(), 1);
+    for (int turns = 0; shown() != month && turns < 4; ++turns) {
+        click(*page.findChild<QToolButton*>(shown() > month ? "qt_calendar_prevmonth"
+                                                            : "qt_calendar_nextmonth"));
+    }
+    QCOMPARE(shown(), month);
+    const auto* days = calendar->findChild<QTableView*>();
+    const QAbstractItemModel& model = *days->model();
+    bool inMonth = false; // From the first 1 on; before it stand days of the month before.
+    for (int row = 1; row < model.rowCount(); ++row) {
+        for (int column = 0; column < model.columnCount(); ++column) {
+            const QModelIndex index = model.index(row, column);
+            const int number = index.data().toInt();
+            inMonth = inMonth || number == 1;
+            if (inMonth && number == day.day()) {
+                click(*days->viewport(), days->visualRect(index).center());
+                return;
+            }
+        }
+    }
+    QFAIL("The calendar does not show that day.");
+}
 
+void tst_MainFlow::wholeFlow()
+{
+    QFETCH_GLOBAL(QString, title);
+    QCOMPARE(m_dialog->windowTitle(), title);
+    QCOMPARE(m_dialog->label("labelTitle"), title);
+    QCOMPARE(m_dialog->label("m_pLblCity"), all());
+    QCOMPARE(m_dialog->label("m_pLblDate"), noDate());
+    QCOMPARE(takeTold(), QStringList{filtered(all(), noDate(), "")});
+    QCOMPARE(seenSorted(), m_everything);
+    QVERIFY(filesAreUntouched());
+
+    using Flow = tst_MainFlow;
+    for (const auto step :
+         {&Flow::filterByCity, &Flow::filterByDate, &Flow::filterByDateRange,
+          &Flow::filterByKeyword, &Flow::createProject, &Flow::renameProject, &Flow::copyProject,
+          &Flow::deleteProject, &Flow::openProject, &Flow::searchBlocks, &Flow::sortBlocks,
+          &Flow::goBack, &Flow::openBlock}) {
+        (this->*step)();
+        if (QTest::currentTestFailed())
+            return;
+    }
+}
+
+void tst_MainFlow::filterByCity()
+{
     const QString chengdu = text("CRkCitySelectWidget", "Chengdu");
-    QWidget* cities = openPopup("m_pBtnCitySelect");
+    const QWidget* cities = openPopup("m_pBtnCitySelect");
     QVERIFY(cities);
     clickButton(*cities, chengdu);
     QVERIFY(!cities->isVisible());
     QVERIFY(!m_dialog->part<QPushButton>("m_pBtnCitySelect").isChecked());
-    QCOMPARE(changed.takeLast(), QVariantList({chengdu, noDate, "", ""}));
     QCOMPARE(m_dialog->label("m_pLblCity"), chengdu);
-    QCOMPARE(seen(), QString("River"));
+    QCOMPARE(takeTold(), QStringList{filtered(chengdu, noDate(), "")});
+    QCOMPARE(seen(), QStringList{"River"});
+    QVERIFY(filesAreUntouched());
 
-    cities = openPopup("m_pBtnCitySelect");
-    QVERIFY(cities);
+    QVERIFY(openPopup("m_pBtnCitySelect"));
     clickButton(*cities, text("CRkCitySelectWidget", "All"));
-    QCOMPARE(seen().count(','), 2);
+    QCOMPARE(takeTold(), QStringList{filtered(all(), noDate(), "")});
+    QCOMPARE(seenSorted(), m_everything);
+    QVERIFY(filesAreUntouched());
+}
 
-    QWidget* dates = openPopup("m_pBtnDateSelect");
+void tst_MainFlow::filterByDate()
+{
+    const QWidget* dates = openPopup("m_pBtnDateSelect");
     QVERIFY(dates);
     click(*dates->findChild<QPushButton*>("pushButtonLastWeek"));
     QVERIFY(!dates->isVisible());
-    QCOMPARE(seen(), QString("Port"));
+    QVERIFY(!m_dialog->part<QPushButton>("m_pBtnDateSelect").isChecked());
+    const QString week = m_dialog->label("m_pLblDate");
+    const QDate last = QDate::fromString(week.right(10), DateFormat);
+    QVERIFY(last == m_now.date() || last == QDate::currentDate());
+    QCOMPARE(week,
+             text("CRkDateSelectWidget", "%1 to %2")
+                 .arg(last.addDays(-7).toString(DateFormat), last.toString(DateFormat)));
+    QCOMPARE(takeTold(), QStringList{filtered(all(), week, "")});
+    QCOMPARE(seen(), QStringList{"Port"});
+    QVERIFY(filesAreUntouched());
 
-    dates = openPopup("m_pBtnDateSelect");
-    QVERIFY(dates);
+    QVERIFY(openPopup("m_pBtnDateSelect"));
     click(*dates->findChild<QPushButton*>("pushButtonAll"));
-    QCOMPARE(m_dialog->label("m_pLblDate"), noDate);
-    QCOMPARE(seen().count(','), 2);
-
-    click(m_dialog->part<QLineEdit>("lineEditSearch"));
-    QTest::keyClicks(m_dialog->focusWidget(), "R");
-    QCOMPARE(seen().count(','), 1); // River and Port.
-    QTest::keyClicks(m_dialog->focusWidget(), "i");
-    QCOMPARE(seen(), QString("River"));
-    QTest::keyClicks(m_dialog->focusWidget(), "'%");
-    QCOMPARE(seen(), QString());
-    for (int i = 0; i < 4; ++i)
-        QTest::keyClick(m_dialog->focusWidget(), Qt::Key_Backspace);
-    QCOMPARE(seen().count(','), 2);
-    QCOMPARE(changed.last(), QVariantList({all, noDate, "", ""}));
+    QCOMPARE(m_dialog->label("m_pLblDate"), noDate());
+    QCOMPARE(takeTold(), QStringList{filtered(all(), noDate(), "")});
+    QCOMPARE(seenSorted(), m_everything);
+    QVERIFY(filesAreUntouched());
 }
 
-void tst_MainFlow::dateRange()
+void tst_MainFlow::filterByDateRange()
 {
-    QWidget* dates = openPopup("m_pBtnDateSelect");
+    const QDate hillDay = m_now.date().addDays(-50);
+    const QDate riverDay = m_now.date().addDays(-20);
+    const QWidget* dates = openPopup("m_pBtnDateSelect");
     QVERIFY(dates);
-    auto* calendar = dates->findChild<QCalendarWidget*>("m_pCalendarWidget");
-    auto* days = calendar->findChild<QTableView*>();
-    // The first of a month stands in the first week that the calendar shows, or the second.
-    const auto clickDay = [&](int month, int day) {
-        calendar->setCurrentPage(2026, month);
-        const QAbstractItemModel& model = *days->model();
-        bool inMonth = false;
-        for (int row = 1; row < model.rowCount(); ++row) {
-            for (int column = 0; column < model.columnCount(); ++column) {
-                const QModelIndex index = model.index(row, column);
-                const int number = index.data().toInt();
-                inMonth = inMonth || number == 1;
-                if (inMonth && number == day) {
-                    click(*days->viewport(), days->visualRect(index).center());
-                    return;
-                }
-            }
-        }
-        QFAIL("The calendar does not show that day.");
-    };
-    auto* from = dates->findChild<QLineEdit*>("lineEditDateFrom");
-    auto* to = dates->findChild<QLineEdit*>("lineEditDateTo");
+    const auto* from = dates->findChild<QLineEdit*>("lineEditDateFrom");
+    const auto* to = dates->findChild<QLineEdit*>("lineEditDateTo");
     click(*from);
-    clickDay(5, 3);
-    QCOMPARE(from->text(), QString("2026-05-03"));
+    clickDay(*dates, hillDay);
+    QCOMPARE(from->text(), hillDay.toString(DateFormat));
     click(*to);
-    clickDay(6, 15);
-    QCOMPARE(to->text(), QString("2026-06-15"));
+    clickDay(*dates, riverDay);
+    QCOMPARE(to->text(), riverDay.toString(DateFormat));
+    QCOMPARE(takeTold(), QStringList());
     click(*dates->findChild<QPushButton*>("pushButtonDateRangeOk"));
     QVERIFY(!dates->isVisible());
-    QCOMPARE(m_dialog->label("m_pLblDate"),
-             text("CRkDateSelectWidget", "%1 to %2").arg("2026-05-03", "2026-06-15"));
-    QStringList names = seen().split(',');
-    names.sort();
-    QCOMPARE(names, QStringList({"Hill", "River"}));
+    const QString range = text("CRkDateSelectWidget", "%1 to %2").arg(from->text(), to->text());
+    QCOMPARE(m_dialog->label("m_pLblDate"), range);
+    QCOMPARE(takeTold(), QStringList{filtered(all(), range, "")});
+    QCOMPARE(seenSorted(), QStringList({"Hill", "River"}));
+    QVERIFY(filesAreUntouched());
+
+    QVERIFY(openPopup("m_pBtnDateSelect"));
+    click(*dates->findChild<QPushButton*>("pushButtonAll"));
+    QCOMPARE(takeTold(), QStringList{filtered(all(), noDate(), "")});
+    QCOMPARE(seenSorted(), m_everything);
 }
 
-void tst_MainFlow::operations()
+void tst_MainFlow::filterByKeyword()
 {
-    const QString newName = text("CRkProjectManagerView", "New Project");
-    const auto file = [this](const QString& name) {
-        return m_root + name + '/' + name + ProjectSuffix;
-    };
-    QSignalSpy renamed(&m_dialog->view(), &CRkProjectManagerView::projectRenamed);
-    QSignalSpy copied(&m_dialog->view(), &CRkProjectManagerView::projectCopied);
+    click(*m_dialog->getProjectManagerWidget()->findChild<QLineEdit*>("lineEditSearch"));
+    m_dialog->type("R");
+    QCOMPARE(takeTold(), QStringList{filtered(all(), noDate(), "R")});
+    QCOMPARE(seenSorted(), QStringList({"Port", "River"}));
+    m_dialog->type("i");
+    QCOMPARE(takeTold(), QStringList{filtered(all(), noDate(), "Ri")});
+    QCOMPARE(seen(), QStringList{"River"});
+    m_dialog->type("'%");
+    QCOMPARE(takeTold(),
+             QStringList({filtered(all(), noDate(), "Ri'"), filtered(all(), noDate(), "Ri'%")}));
+    QCOMPARE(seen(), QStringList());
+    for (int i = 0; i < 4; ++i)
+        m_dialog->type(Qt::Key_Backspace);
+    QCOMPARE(takeTold().size(), 4);
+    QCOMPARE(seenSorted(), m_everything);
+    QVERIFY(filesAreUntouched());
+}
 
+void tst_MainFlow::createProject()
+{
     m_dialog->press("pushButtonNewProject");
-    QVERIFY(QFileInfo::exists(file(newName)));
-    QVERIFY(m_dialog->tile(newName));
-    QCOMPARE(seen().count(','), 3);
-    QVERIFY(seen().endsWith(",?")); // The picture of projects without one.
+    QVERIFY(m_dialog->tile(newName()));
+    QCOMPARE(seen().mid(4), QStringList{"?"}); // The picture of projects without one.
+    QCOMPARE(takeTold(), QStringList());
+    QVERIFY(m_answers->messages.isEmpty());
+    QCOMPARE(readSql(file(newName()), "select project_name from " + ProjectTableName),
+             QStringList{newName()});
+    QMap<QString, QByteArray> others = filesBelow(m_root);
+    QCOMPARE(others.remove(file(newName()).mid(m_root.size())), 1);
+    QCOMPARE(others, m_files);
+    m_files = filesBelow(m_root);
+}
 
-    m_dialog->clickCaption(newName);
-    QTest::keySequence(m_dialog->focusWidget(), QKeySequence::SelectAll);
-    QTest::keyClicks(m_dialog->focusWidget(), "Dale 2");
-    QTest::keyClick(m_dialog->focusWidget(), Qt::Key_Return);
-    QCOMPARE(renamed.size(), 1);
+void tst_MainFlow::renameProject()
+{
+    const QImage caption = m_dialog->caption(newName());
+    m_dialog->clickCaption(newName());
+    m_dialog->selectAllText();
+    m_dialog->type("Dale 2");
+    QVERIFY(filesAreUntouched()); // Not before the end.
+    m_dialog->type(Qt::Key_Return);
     QVERIFY(m_dialog->isVisible());
-    QVERIFY(!QFileInfo::exists(file(newName)));
+    QVERIFY(m_dialog->tile("Dale 2"));
+    QVERIFY(!m_dialog->tile(newName()));
+    QVERIFY(m_dialog->caption("Dale 2") != caption);
+    QCOMPARE(seen().mid(4), QStringList{"?"});
+    QCOMPARE(takeTold(), QStringList{"renamed"});
+    QVERIFY(m_answers->messages.isEmpty());
     QCOMPARE(readSql(file("Dale 2"), "select project_name from " + ProjectTableName),
              QStringList{"Dale 2"});
-    QVERIFY(m_answers->boxes.isEmpty());
+    QMap<QString, QByteArray> others = filesBelow(m_root);
+    QCOMPARE(others.remove(file("Dale 2").mid(m_root.size())), 1);
+    QCOMPARE(m_files.remove(file(newName()).mid(m_root.size())), 1);
+    QCOMPARE(others, m_files);
+    m_files = filesBelow(m_root);
+}
 
+void tst_MainFlow::copyProject()
+{
     m_dialog->clickThumbnail("River");
     QVERIFY(m_dialog->tile("River")->isSelected());
     m_dialog->press("m_pCopyProjectBtn");
-    const QString copy = text("CRkProjectManagerView", "copy of ") + "River";
-    QCOMPARE(copied.size(), 1);
-    QVERIFY(QFileInfo::exists(file(copy)));
-    QVERIFY(QFileInfo::exists(file("River")));
-    QCOMPARE(seen().split(',').count("River"), 2);
-
-    m_dialog->clickThumbnail("Hill");
-    m_dialog->press("m_pDeleteProjectBtn");
-    QCOMPARE(m_answers->boxes.size(), 1);
-    QCOMPARE(m_answers->boxes.first().title, text("CRkProjectManagerView", "Delete Project"));
-    QVERIFY(!QFileInfo::exists(file("Hill")));
-    QVERIFY(!seen().contains("Hill"));
-    QCOMPARE(seen().count(','), 3);
+    // The page, which filters then, is told of the copy before this test.
+    QCOMPARE(takeTold(), QStringList({filtered(all(), noDate(), ""), "copied"}));
+    QVERIFY(m_answers->messages.isEmpty());
+    QVERIFY(m_dialog->tile(copyName()));
+    QCOMPARE(seen().mid(4), QStringList({"?", "River"}));
+    QCOMPARE(seen().count("River"), 2);
+    QCOMPARE(readSql(file(copyName()), "select project_name from " + ProjectTableName),
+             QStringList{copyName()});
+    QMap<QString, QByteArray> others = filesBelow(m_root);
+    QCOMPARE(others.remove(file(copyName()).mid(m_root.size())), 1);
+    QCOMPARE(others, m_files);
+    m_files = filesBelow(m_root);
 }
 
-void tst_MainFlow::blocks()
+void tst_MainFlow::deleteProject()
 {
-    BlockFixture field{"Field"};
-    field.blocks = {{"b1", "south", {{"t1", 2}}}, {"b2", "north", {{"t2", 5}, {"t3", 0}}, "VTOL Light"}};
-    const QString file = field.write(m_root);
-    show();
-    QSignalSpy projectOpened(m_dialog.get(), &CRkProjectManagerDialog::projectOpened);
-    QSignalSpy blockOpened(m_dialog.get(), &CRkProjectManagerDialog::blockOpened);
-    QSignalSpy wentBack(m_dialog.get(), &CRkProjectManagerDialog::backToProjectView);
-    connect(m_dialog.get(), &CRkProjectManagerDialog::blockOpened, m_dialog.get(),
-            &QDialog::accept);
+    const QString title = text("CRkProjectManagerView", "Delete Project");
+    const QString question = title + ": " + text("CRkProjectManagerView", "confirm delete \"")
+        + "Hill" + text("CRkProjectManagerView", "\"?");
+    m_dialog->clickThumbnail("Hill");
+    m_answers->button = "m_pBtnCancel";
+    m_dialog->press("m_pDeleteProjectBtn");
+    QCOMPARE(m_answers->messages, QStringList{question});
+    QVERIFY(seen().contains("Hill"));
+    QVERIFY(filesAreUntouched());
 
+    m_answers->button = "m_pBtnOK";
+    m_dialog->press("m_pDeleteProjectBtn");
+    QCOMPARE(m_answers->messages, QStringList({question, question}));
+    QCOMPARE(takeTold(), QStringList());
+    QVERIFY(!m_dialog->tile("Hill"));
+    QCOMPARE(seenSorted(), QStringList({"?", "Field", "Port", "River", "River"}));
+    QCOMPARE(m_files.remove(file("Hill").mid(m_root.size())), 1);
+    QVERIFY(filesAreUntouched());
+}
+
+void tst_MainFlow::openProject()
+{
     m_dialog->openProject("Field");
-    QCOMPARE(projectOpened.size(), 1);
-    QCOMPARE(projectOpened.first(), QVariantList{file});
+    QCOMPARE(takeTold(), QStringList{"project " + file("Field")});
     QCOMPARE(m_dialog->page(), QString("pageBlockManager"));
     QCOMPARE(m_dialog->GetProjectName(), QString("Field"));
+    QCOMPARE(m_dialog->getOpenedProjectInfo().projectFilePath, file("Field"));
     QCOMPARE(m_dialog->label("labelProjectNameOpeningBlocks"), QString("Field"));
+    QCOMPARE(m_dialog->blocks().headerItem()->text(0), text("CRkBlockManagerTable", "Block Name"));
     QCOMPARE(m_dialog->blockNames(), QString("north south"));
+    QCOMPARE(m_dialog->label("labelTotalBlockCount"), QString("2"));
+    QCOMPARE(m_dialog->label("labelTotalMissionCount"), QString("3"));
     QCOMPARE(m_dialog->label("labelTotalFlightCount"), QString("7"));
+    m_blockPictures = {m_dialog->blockPicture(0), m_dialog->blockPicture(1)};
+    QVERIFY(m_blockPictures[0] != m_blockPictures[1]);
+    QVERIFY(filesAreUntouched());
+}
 
-    auto* page = m_dialog->findChild<QWidget*>("pageBlockManager");
-    click(*page->findChild<QLineEdit*>("lineEditSearch"));
-    QTest::keyClicks(m_dialog->focusWidget(), "nor");
-    click(*page->findChild<QPushButton*>("pushButtonSearch"));
-    QCOMPARE(m_dialog->blockNames(), QString("north"));
-    click(*page->findChild<QLineEdit*>("lineEditSearch"));
-    QTest::keySequence(m_dialog->focusWidget(), QKeySequence::SelectAll);
-    QTest::keyClick(m_dialog->focusWidget(), Qt::Key_Delete);
-    click(*page->findChild<QPushButton*>("pushButtonSearch"));
+void tst_MainFlow::searchBlocks()
+{
+    const auto* page = m_dialog->findChild<QWidget*>("pageBlockManager");
+    const auto& keyword = *page->findChild<QLineEdit*>("lineEditSearch");
+    const auto& search = *page->findChild<QPushButton*>("pushButtonSearch");
+    click(keyword);
+    m_dialog->type("sou");
+    click(search);
+    QCOMPARE(m_dialog->blockNames(), QString("south"));
+    QCOMPARE(m_dialog->blockPicture(0), m_blockPictures[1]);
+    click(keyword);
+    m_dialog->selectAllText();
+    m_dialog->type(Qt::Key_Delete);
+    click(search);
     QCOMPARE(m_dialog->blockNames(), QString("north south"));
+    QCOMPARE(m_dialog->blockPicture(0), m_blockPictures[0]);
+    QCOMPARE(m_dialog->blockPicture(1), m_blockPictures[1]);
+    QCOMPARE(takeTold(), QStringList());
+    QVERIFY(filesAreUntouched());
+}
+
+void tst_MainFlow::sortBlocks()
+{
     m_dialog->press("pushButtonAirplaneType");
     QCOMPARE(m_dialog->blockNames(), QString("south north"));
+    QCOMPARE(m_dialog->blockPicture(0), m_blockPictures[1]);
+    QCOMPARE(m_dialog->blockPicture(1), m_blockPictures[0]);
+    QCOMPARE(takeTold(), QStringList());
+    QVERIFY(filesAreUntouched());
+}
 
+void tst_MainFlow::goBack()
+{
     m_dialog->press("pushButtonBackToProjectManager");
-    QCOMPARE(wentBack.size(), 1);
+    QCOMPARE(takeTold(), QStringList{"back"});
     QCOMPARE(m_dialog->page(), QString("pageProjectManager"));
-    QCOMPARE(seen().count(','), 3);
+    QCOMPARE(seenSorted(), QStringList({"?", "Field", "Port", "River", "River"}));
+    QVERIFY(filesAreUntouched());
+}
 
+void tst_MainFlow::openBlock()
+{
     m_dialog->openProject("Field");
+    QCOMPARE(takeTold(), QStringList{"project " + file("Field")});
     QCOMPARE(m_dialog->page(), QString("pageBlockManager"));
-    m_dialog->openBlock(1);
-    QCOMPARE(blockOpened.size(), 1);
-    QCOMPARE(blockOpened.first(), QVariantList{"b1"});
+    const QString first = m_dialog->blockNames().section(' ', 0, 0);
+    m_dialog->openBlock(0);
+    QCOMPARE(takeTold(), QStringList{first == "north" ? "block b2" : "block b1"});
     QVERIFY(!m_dialog->isVisible());
     QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
-    QCOMPARE(m_dialog->getOpenedProjectInfo().projectFilePath, file);
+    QCOMPARE(m_received.projectName, QString("Field"));
+    QCOMPARE(m_received.projectFilePath, file("Field"));
+    QCOMPARE(m_received.projectId, QString("id-of-Field"));
+    QCOMPARE(m_received.softwareVersion, QString("1.0.0"));
+    QCOMPARE(m_received.mapScale, 2000);
+    QCOMPARE(m_received.centerLat, 30.66);
+    QCOMPARE(m_received.centerLng, 104.06);
+    QVERIFY(filesAreUntouched());
 }
 
 QTEST_MAIN(tst_MainFlow)
