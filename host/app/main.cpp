@@ -130,7 +130,8 @@ QString complaint(QCommandLineParser& parser, const QStringList& arguments)
     if (!parser.parse(arguments))
         return parser.errorText();
     if (!parser.positionalArguments().isEmpty())
-        return QStringLiteral("Unknown argument \"%1\".").arg(parser.positionalArguments().constFirst());
+        return QStringLiteral("Unknown argument \"%1\".")
+            .arg(parser.positionalArguments().constFirst());
     const QString language = parser.value(QStringLiteral("lang"));
     if (parser.isSet(QStringLiteral("lang")) && language != QLatin1String("zh_CN")
         && language != QLatin1String("en"))

@@ -23,7 +23,8 @@ QString ProjectFixture::write(const QString& root) const
             + QString(" (project_name,id,user_id,created_at,version,updated_at,software_version,"
                       "image_data)"
                       " VALUES ('%1','%2','%3','2026-01-01 00:00:00','1','%4','0.9.8','%5')")
-                  .arg(QString(name).replace('\'', "''"), id, userId, modified, QString::fromLatin1(imageData)),
+                  .arg(QString(name).replace('\'', "''"), id, userId, modified,
+                       QString::fromLatin1(imageData)),
     };
     for (int i = 0; i < outlines.size(); ++i) {
         statements.append(
