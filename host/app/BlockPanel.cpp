@@ -204,7 +204,7 @@ QString BlockPanel::blockName() const
 {
     const auto isOpened = [this](const auto& block) { return block.id == m_blockId; };
     const auto found = std::find_if(m_content.blocks.cbegin(), m_content.blocks.cend(), isOpened);
-    return found == m_content.blocks.cend() ? QString() : found->name;
+    return found == m_content.blocks.cend() ? m_blockId : found->name;
 }
 
 void BlockPanel::retranslate()

@@ -44,6 +44,7 @@ private:
     void addRow(QFormLayout* form);
     void retranslate();
     void fillTasks();
+    /// Its id where the project does not tell a name.
     QString blockName() const;
 
     CRkOpenedProjectInfo m_project;

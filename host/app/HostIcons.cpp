@@ -33,15 +33,6 @@ QPainterPath globe()
     return path;
 }
 
-QPainterPath person()
-{
-    QPainterPath path;
-    path.addEllipse(QPointF(10, 7), 3.5, 3.5);
-    path.moveTo(3.5, 17);
-    path.cubicTo(QPointF(4, 11.5), QPointF(16, 11.5), QPointF(16.5, 17));
-    return path;
-}
-
 QPainterPath lines(std::initializer_list<QLineF> segments)
 {
     QPainterPath path;
@@ -91,8 +82,6 @@ QPainterPath drawing(Shape shape)
     case Shape::Language:
     case Shape::Country:
         return globe();
-    case Shape::User:
-        return person();
     case Shape::Plus:
         return lines({{4.5, 10, 15.5, 10}, {10, 4.5, 10, 15.5}});
     case Shape::Minus:

@@ -9,7 +9,7 @@
 /// Line drawings for the host's own buttons.
 namespace HostIcons {
 
-enum class Shape { Projects, Language, User, Plus, Minus, Block, Project, Country };
+enum class Shape { Projects, Language, Plus, Minus, Block, Project, Country };
 
 /// The drawing in one colour, 20 pixels wide at every scale of the screen.
 QIcon icon(Shape shape, const QColor& colour);

@@ -14,7 +14,6 @@ class MapPanel;
 class QAction;
 class QActionGroup;
 class QLabel;
-class QStackedWidget;
 class QToolBar;
 class QToolButton;
 class UserBox;
@@ -32,6 +31,7 @@ class HostWindow : public QMainWindow
 
 public:
     explicit HostWindow(QWidget* parent = nullptr);
+    ~HostWindow() override;
 
     /// The dialog of projects; null while it is not open.
     CRkProjectManagerDialog* projectsDialog() const;
@@ -64,7 +64,6 @@ private:
     UserBox* m_user = nullptr;
     QToolButton* m_language = nullptr;
     QActionGroup* m_languages = nullptr;
-    QStackedWidget* m_panels = nullptr; ///< The pages in the middle, of which the map is one.
     MapPanel* m_map = nullptr;
     BlockPanel* m_block = nullptr;
     QPointer<CRkProjectManagerDialog> m_projects;

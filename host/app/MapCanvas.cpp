@@ -201,7 +201,7 @@ void MapCanvas::drawBorders(QPainter& painter, const QRectF& rectangle) const
 {
     const QRectF reach = rectangle.adjusted(-overhang, -overhang, overhang, overhang);
     const QRectF area(m_view.toPlane(reach.topLeft()), reach.size() / m_view.scale);
-    // By kind, so that the weightier lines lie above the others. The far country shows no cities.
+    // By kind, so that the weightier lines lie above the others.
     std::array<QVector<QPolygonF>, 3> lines;
     for (int border : m_outlines.bordersIn(area)) {
         const QPolygonF line = onScreen(m_outlines.border(border, tolerance()), m_view);

@@ -38,7 +38,7 @@ MapPanel::MapPanel(QWidget* parent)
     setMouseTracking(true);
     setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
-    setCursor(Qt::OpenHandCursor);
+    letGo();
     setMinimumSize(360, 240);
     m_glide.setDuration(glideTime);
     m_glide.setStartValue(0.0);
@@ -98,6 +98,7 @@ const MapView& MapPanel::goal() const
 
 void MapPanel::glideTo(const MapView& view)
 {
+    letGo(); // Or the next move of the mouse would bring the old view back.
     if (!isVisible() || !style()->styleHint(QStyle::SH_Widget_Animate, nullptr, this)) {
         setView(view);
         return;
@@ -203,6 +204,8 @@ void MapPanel::mousePressEvent(QMouseEvent* event)
 
 void MapPanel::mouseMoveEvent(QMouseEvent* event)
 {
+    if (m_grip && !(event->buttons() & Qt::LeftButton))
+        letGo(); // A dialog may have kept the release of the button.
     if (m_grip) {
         // By whole pixels of the screen, so that the picture can be moved instead of drawn.
         const double ratio = devicePixelRatioF();
@@ -214,8 +217,12 @@ void MapPanel::mouseMoveEvent(QMouseEvent* event)
 
 void MapPanel::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (event->button() != Qt::LeftButton)
-        return;
+    if (event->button() == Qt::LeftButton)
+        letGo();
+}
+
+void MapPanel::letGo()
+{
     m_grip.reset();
     setCursor(Qt::OpenHandCursor);
 }

@@ -70,6 +70,7 @@ private:
     MapView allowed(const MapView& view) const;
     /// The view that the map will have when it comes to rest.
     const MapView& goal() const;
+    void letGo();
     void setCursorPlace(const std::optional<QPointF>& place);
     QRect cornerRect() const;
 

@@ -8,6 +8,7 @@
 
 #include <QEvent>
 #include <QLineEdit>
+#include <QWheelEvent>
 
 #include <array>
 
@@ -28,6 +29,7 @@ UserBox::UserBox(QWidget* parent)
 {
     setEditable(true);
     setInsertPolicy(QComboBox::NoInsert);
+    setCompleter(nullptr); // An id may be the beginning of another.
     const QStringList ids = sampleUserIds();
     for (const QString& id : ids)
         addItem(id, id);
@@ -57,7 +59,7 @@ int UserBox::rowOf(const QString& userId)
 void UserBox::chooseTyped()
 {
     const QString typed = lineEdit()->text().trimmed();
-    const int row = findText(typed, Qt::MatchFixedString);
+    const int row = findText(typed);
     choose(row >= 0 ? row : rowOf(typed));
 }
 
@@ -71,6 +73,12 @@ void UserBox::choose(int row)
     m_userId = userId;
     HostSettings::setCurrentUser(userId);
     emit userChanged(userId);
+}
+
+/// Or a turn of the wheel over the tool bar would close the block.
+void UserBox::wheelEvent(QWheelEvent* event)
+{
+    event->ignore();
 }
 
 void UserBox::changeEvent(QEvent* event)

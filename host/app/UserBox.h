@@ -20,6 +20,7 @@ Q_SIGNALS:
     void userChanged(const QString& userId);
 
 protected:
+    void wheelEvent(QWheelEvent* event) override;
     void changeEvent(QEvent* event) override;
 
 private:

@@ -18,6 +18,7 @@
 #include <QTest>
 #include <QTreeWidget>
 
+#include <algorithm>
 #include <memory>
 
 namespace {
@@ -229,8 +230,12 @@ void tst_BlockPanel::showsNothingAgain()
 {
     BlockPanel panel;
     panel.show();
-    panel.showBlock({}, QStringLiteral("x"), {});
+    panel.showBlock({}, QStringLiteral("gone"), {});
     QVERIFY(panel.findChild<QTreeWidget*>()->isVisible());
+    const QList<QLabel*> labels = panel.findChildren<QLabel*>();
+    QVERIFY(std::any_of(labels.begin(), labels.end(), [](const QLabel* label) {
+        return label->text() == QLatin1String("gone");
+    }));
     panel.showNothing();
     QVERIFY(!panel.findChild<QTreeWidget*>()->isVisible());
 }

@@ -10,6 +10,7 @@
 #include "support/TestSupport.h"
 
 #include <RkBaseUI/CRkBlockManagerWidget.h>
+#include <RkBaseUI/CRkGraphicsProjectRectItem.h>
 #include <RkBaseUI/CRkProjectManagerDialog.h>
 #include <RkBaseUI/CRkProjectManagerView.h>
 #include <RkBaseUI/CRkProjectManagerWidget.h>
@@ -17,6 +18,7 @@
 #include <RkData/ReferenceSettings.h>
 
 #include <QAction>
+#include <QDir>
 #include <QFileInfo>
 #include <QGraphicsScene>
 #include <QLineEdit>
@@ -28,9 +30,14 @@
 #include <QTest>
 #include <QToolButton>
 #include <QTreeWidget>
+#include <QWheelEvent>
+#include <QWindow>
 
 #include <algorithm>
 #include <memory>
+
+using Close = void (*)(CRkProjectManagerDialog&);
+Q_DECLARE_METATYPE(Close)
 
 namespace {
 
@@ -39,6 +46,48 @@ QString storedUser()
     return QSettings(QStringLiteral("RkOrganization"), QStringLiteral("RkCloud"))
         .value(QStringLiteral("UserInfo/UserID"))
         .toString();
+}
+
+void doubleClick(const QWidget& widget, QPoint at)
+{
+    const QWidget* window = widget.window();
+    const QPoint place = widget.mapTo(window, at);
+    QTest::mouseClick(window->windowHandle(), Qt::LeftButton, {}, place);
+    QTest::mouseDClick(window->windowHandle(), Qt::LeftButton, {}, place);
+}
+
+CRkProjectManagerView& viewOf(const CRkProjectManagerDialog& dialog)
+{
+    return *dialog.getProjectManagerWidget()->getProjectManagerView();
+}
+
+void openProject(const CRkProjectManagerDialog& dialog, const QString& file)
+{
+    QVERIFY(QTest::qWaitForWindowExposed(dialog.windowHandle()));
+    CRkProjectManagerView& view = viewOf(dialog);
+    const QList<QGraphicsItem*> items = view.scene()->items();
+    for (QGraphicsItem* item : items) {
+        const auto* tile = dynamic_cast<CRkGraphicsProjectRectItem*>(item);
+        if (!tile || tile->GetProjectName() != QFileInfo(file).completeBaseName())
+            continue;
+        view.ensureVisible(item);
+        doubleClick(*view.viewport(), view.mapFromScene(item->mapToScene(60, 60)));
+    }
+    QTRY_VERIFY(dialog.getBlockManagerWidget()->isVisible());
+}
+
+void openFirstBlock(const CRkProjectManagerDialog& dialog)
+{
+    const auto* blocks = dialog.getBlockManagerWidget()->findChild<QTreeWidget*>();
+    QVERIFY(blocks->topLevelItemCount() > 0);
+    doubleClick(*blocks->viewport(), blocks->visualItemRect(blocks->topLevelItem(0)).center());
+}
+
+void typeUser(const UserBox& box, const QString& text)
+{
+    QTest::mouseClick(box.lineEdit(), Qt::LeftButton);
+    box.lineEdit()->selectAll();
+    QTest::keyClicks(box.lineEdit(), text);
 }
 
 } // namespace
@@ -54,15 +103,24 @@ private slots:
     void settingsHoldTheUser();
     void projectsButtonOpensTheDialog();
     void dialogIsOpenOnce();
+    void closedDialogChangesNothing_data();
     void closedDialogChangesNothing();
     void openedBlockIsShown();
     void flightsAreCountedWhenTheBlockIsOpened();
     void usersOfTheSamplesHaveNames();
     void chosenUserGoesToTheSettings();
     void typedUserGoesToTheSettings();
+    void idMayBeTheBeginningOfAnother();
+    void idMayHoldQuotes_data();
+    void idMayHoldQuotes();
+    void userBeingTypedCountsForTheDialog();
+    void windowMayGoWhileAUserIsTyped();
+    void wheelDoesNotChangeTheUser();
     void anotherUserClosesTheBlock();
     void dialogListsTheProjectsOfTheUser();
+    void blockOfAProjectThatIsGoneIsShown();
     void languageMenuSwitches();
+    void languageSwitchesUnderTheDialog();
     void languagesAreReplaced();
     void programKeepsItsSettingsWhereItIsTold();
     void programStartsWithTheUserOfTheSamples();
@@ -70,8 +128,8 @@ private slots:
 private:
     /// The file of a project that has a block with tasks.
     QString flownProject() const;
-    /// Opens the project in the dialog, and its first block.
-    void openIn(CRkProjectManagerDialog& dialog, const QString& file);
+    /// Opens the project and its first block in the dialog.
+    void openBlockOf(const QString& file);
     static QAction* language(const HostWindow& window, const QString& id);
 
     TestHome m_home;
@@ -118,13 +176,12 @@ QString tst_HostWindow::flownProject() const
     return {};
 }
 
-void tst_HostWindow::openIn(CRkProjectManagerDialog& dialog, const QString& file)
+void tst_HostWindow::openBlockOf(const QString& file)
 {
-    emit dialog.getProjectManagerWidget()->getProjectManagerView()->projectOpened(file);
-    QTRY_VERIFY(dialog.getBlockManagerWidget()->isVisible());
-    auto* blocks = dialog.getBlockManagerWidget()->findChild<QTreeWidget*>();
-    QVERIFY(blocks->topLevelItemCount() > 0);
-    emit blocks->itemDoubleClicked(blocks->topLevelItem(0), 0);
+    m_window->openProjects();
+    openProject(*m_window->projectsDialog(), file);
+    openFirstBlock(*m_window->projectsDialog());
+    QTRY_VERIFY(!m_window->projectsDialog());
 }
 
 QAction* tst_HostWindow::language(const HostWindow& window, const QString& id)
@@ -165,14 +222,37 @@ void tst_HostWindow::dialogIsOpenOnce()
     QCOMPARE(m_window->findChildren<CRkProjectManagerDialog*>().size(), 1);
 }
 
+void tst_HostWindow::closedDialogChangesNothing_data()
+{
+    QTest::addColumn<Close>("close");
+    QTest::newRow("button") << Close([](CRkProjectManagerDialog& dialog) {
+        QTest::mouseClick(dialog.findChild<QPushButton*>(QStringLiteral("pushButtonCloseWindow")),
+                          Qt::LeftButton);
+    });
+    QTest::newRow("Escape") << Close(
+        [](CRkProjectManagerDialog& dialog) { QTest::keyClick(&dialog, Qt::Key_Escape); });
+    QTest::newRow("window system")
+        << Close([](CRkProjectManagerDialog& dialog) { dialog.close(); });
+}
+
 void tst_HostWindow::closedDialogChangesNothing()
 {
+    QFETCH(Close, close);
+    const QString file = flownProject();
+    openBlockOf(file);
+    QTRY_VERIFY(!m_window->map()->isMoving());
     const MapView before = m_window->map()->view();
-    m_window->openProjects();
-    m_window->projectsDialog()->close();
-    QTRY_VERIFY(!m_window->projectsDialog());
-    QVERIFY(m_window->map()->view() == before);
-    QVERIFY(!m_window->blockPanel()->findChild<QTreeWidget*>()->isVisible());
+    const QString title = m_window->windowTitle();
+    for (const bool isOnBlocks : {false, true}) {
+        m_window->openProjects();
+        if (isOnBlocks)
+            openProject(*m_window->projectsDialog(), file);
+        close(*m_window->projectsDialog());
+        QTRY_VERIFY(!m_window->projectsDialog());
+        QVERIFY(m_window->map()->view() == before);
+        QVERIFY(m_window->blockPanel()->findChild<QTreeWidget*>()->isVisible());
+        QCOMPARE(m_window->windowTitle(), title);
+    }
 }
 
 void tst_HostWindow::openedBlockIsShown()
@@ -180,9 +260,7 @@ void tst_HostWindow::openedBlockIsShown()
     const QString file = flownProject();
     const QString name = QFileInfo(file).completeBaseName();
     const double country = m_window->map()->view().scale;
-    m_window->openProjects();
-    openIn(*m_window->projectsDialog(), file);
-    QTRY_VERIFY(!m_window->projectsDialog());
+    openBlockOf(file);
     QVERIFY(m_window->blockPanel()->findChild<QTreeWidget*>()->isVisible());
     QVERIFY(m_window->windowTitle().startsWith(name));
     QTRY_VERIFY(!m_window->map()->isMoving());
@@ -195,8 +273,7 @@ void tst_HostWindow::flightsAreCountedWhenTheBlockIsOpened()
     const QString file = flownProject();
     m_window->openProjects();
     CRkProjectManagerDialog* dialog = m_window->projectsDialog();
-    emit dialog->getProjectManagerWidget()->getProjectManagerView()->projectOpened(file);
-    QTRY_VERIFY(dialog->getBlockManagerWidget()->isVisible());
+    openProject(*dialog, file);
     const QStringList tasks =
         readSql(file, QStringLiteral("select flight_task_guid from flight_task"));
     QVERIFY(!tasks.isEmpty());
@@ -206,7 +283,8 @@ void tst_HostWindow::flightsAreCountedWhenTheBlockIsOpened()
                                       "'2031-01-01 00:00:00')")
                            .arg(task));
     QVERIFY(runSql(CRkControl::GetFlightMissionFilePath(file), flights));
-    openIn(*dialog, file);
+    openFirstBlock(*dialog);
+    QTRY_VERIFY(!m_window->projectsDialog());
     const auto* tree = m_window->blockPanel()->findChild<QTreeWidget*>();
     QVERIFY(tree->topLevelItemCount() > 0);
     for (int i = 0; i < tree->topLevelItemCount(); ++i) {
@@ -259,11 +337,89 @@ void tst_HostWindow::typedUserGoesToTheSettings()
     QVERIFY2(box->currentText().contains(QLatin1Char('(')), "a known id shows its name");
 }
 
+void tst_HostWindow::idMayBeTheBeginningOfAnother()
+{
+    const auto* box = m_window->findChild<UserBox*>();
+    const QStringList ids = {QStringLiteral("surveyor-77"), QStringLiteral("surveyor-7"),
+                             QStringLiteral("Surveyor-77")};
+    for (const QString& id : ids) {
+        typeUser(*box, id);
+        QTest::keyClick(box->lineEdit(), Qt::Key_Return);
+        QCOMPARE(storedUser(), id);
+        QCOMPARE(box->currentText(), id);
+    }
+}
+
+void tst_HostWindow::idMayHoldQuotes_data()
+{
+    QTest::addColumn<QString>("id");
+    QTest::addColumn<int>("tiles");
+    QTest::newRow("double") << "Neill \"7\"; 50 %1" << 2;
+    // The dialog puts ids into its statements as they are.
+    QTest::newRow("single") << "O'Neill" << 0;
+}
+
+void tst_HostWindow::idMayHoldQuotes()
+{
+    QFETCH(QString, id);
+    SampleOptions samples;
+    samples.root = m_home.path() + QStringLiteral("/quotes");
+    samples.userId = id;
+    samples.count = 2;
+    samples.withSpecialCases = false;
+    samples.now = QDateTime::currentDateTime();
+    QCOMPARE(writeSampleProjects(samples).size(), 2);
+    HostSettings::setProjectRoot(samples.root);
+    const auto* box = m_window->findChild<UserBox*>();
+    typeUser(*box, samples.userId);
+    QTest::keyClick(box->lineEdit(), Qt::Key_Return);
+    QCOMPARE(storedUser(), samples.userId);
+    m_window->openProjects();
+    CRkProjectManagerView& view = viewOf(*m_window->projectsDialog());
+    const auto isTile = [](const QGraphicsItem* item) {
+        return dynamic_cast<const CRkGraphicsProjectRectItem*>(item) != nullptr;
+    };
+    const QList<QGraphicsItem*> items = view.scene()->items();
+    QTEST(int(std::count_if(items.begin(), items.end(), isTile)), "tiles");
+}
+
+/// A click on the button of the projects does not take the focus.
+void tst_HostWindow::userBeingTypedCountsForTheDialog()
+{
+    openBlockOf(flownProject());
+    QApplication::setActiveWindow(m_window.get()); // Else nothing has the focus.
+    typeUser(*m_window->findChild<UserBox*>(), QStringLiteral("nobody"));
+    QCOMPARE(storedUser(), sampleUserId());
+    QTest::mouseClick(m_window->findChild<QToolButton*>(QStringLiteral("openProjects")),
+                      Qt::LeftButton);
+    QCOMPARE(storedUser(), QStringLiteral("nobody"));
+    QVERIFY(viewOf(*m_window->projectsDialog()).scene()->items().isEmpty());
+    QVERIFY(!m_window->blockPanel()->findChild<QTreeWidget*>()->isVisible());
+}
+
+void tst_HostWindow::windowMayGoWhileAUserIsTyped()
+{
+    openBlockOf(flownProject());
+    QApplication::setActiveWindow(m_window.get());
+    typeUser(*m_window->findChild<UserBox*>(), QStringLiteral("nobody"));
+    m_window.reset();
+    QCOMPARE(storedUser(), QStringLiteral("nobody"));
+}
+
+void tst_HostWindow::wheelDoesNotChangeTheUser()
+{
+    auto* box = m_window->findChild<UserBox*>();
+    const QPoint at = box->rect().center();
+    QWheelEvent event(at, box->mapToGlobal(at), {}, {0, -120}, Qt::NoButton, Qt::NoModifier,
+                      Qt::NoScrollPhase, false);
+    QApplication::sendEvent(box, &event);
+    QCOMPARE(box->currentData().toString(), sampleUserId());
+    QCOMPARE(storedUser(), sampleUserId());
+}
+
 void tst_HostWindow::anotherUserClosesTheBlock()
 {
-    m_window->openProjects();
-    openIn(*m_window->projectsDialog(), flownProject());
-    QTRY_VERIFY(!m_window->projectsDialog());
+    openBlockOf(flownProject());
     auto* box = m_window->findChild<UserBox*>();
     QTest::keyClick(box, Qt::Key_Down);
     QVERIFY(!m_window->blockPanel()->findChild<QTreeWidget*>()->isVisible());
@@ -289,11 +445,26 @@ void tst_HostWindow::dialogListsTheProjectsOfTheUser()
     QCOMPARE(tiles(), 0);
 }
 
+/// Somebody else removes it while its blocks are listed.
+void tst_HostWindow::blockOfAProjectThatIsGoneIsShown()
+{
+    const QString file = flownProject();
+    m_window->openProjects();
+    openProject(*m_window->projectsDialog(), file);
+    const QString folder = QFileInfo(file).path();
+    const QString elsewhere = m_home.path() + QStringLiteral("/elsewhere");
+    QVERIFY(QDir().rename(folder, elsewhere));
+    openFirstBlock(*m_window->projectsDialog());
+    QTRY_VERIFY(!m_window->projectsDialog());
+    QVERIFY(m_window->blockPanel()->findChild<QTreeWidget*>()->isVisible());
+    QVERIFY(m_window->windowTitle().startsWith(QFileInfo(file).completeBaseName()));
+    QVERIFY2(!QFileInfo::exists(folder), "nothing is made in its place");
+    QVERIFY(QDir().rename(elsewhere, folder));
+}
+
 void tst_HostWindow::languageMenuSwitches()
 {
-    m_window->openProjects();
-    openIn(*m_window->projectsDialog(), flownProject());
-    QTRY_VERIFY(!m_window->projectsDialog());
+    openBlockOf(flownProject());
     const auto* open = m_window->findChild<QToolButton*>(QStringLiteral("openProjects"));
     const auto* box = m_window->findChild<UserBox*>();
     const QString english = box->currentText();
@@ -315,6 +486,19 @@ void tst_HostWindow::languageMenuSwitches()
     QTRY_COMPARE(open->text(), QStringLiteral("Projects"));
     QTRY_COMPARE(box->currentText(), english);
     QCOMPARE(storedUser(), sampleUserId());
+}
+
+/// The dialog keeps the language in which it was opened, and works on.
+void tst_HostWindow::languageSwitchesUnderTheDialog()
+{
+    m_window->openProjects();
+    HostSettings::installLanguage(QStringLiteral("zh_CN"));
+    openProject(*m_window->projectsDialog(), flownProject());
+    HostSettings::installLanguage(QStringLiteral("en"));
+    openFirstBlock(*m_window->projectsDialog());
+    QTRY_VERIFY(!m_window->projectsDialog());
+    QCOMPARE(m_window->blockPanel()->findChild<QTreeWidget*>()->headerItem()->text(1),
+             QStringLiteral("Flights"));
 }
 
 void tst_HostWindow::languagesAreReplaced()

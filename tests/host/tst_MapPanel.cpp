@@ -92,6 +92,8 @@ private slots:
     void chosenViewOutlivesAResize();
     void mouseDragsTheMap();
     void otherButtonsDoNotDrag();
+    void zoomLetsGo();
+    void lostReleaseLetsGo();
     void wheelZoomsAtTheCursor_data();
     void wheelZoomsAtTheCursor();
     void quickWheelTurnsAddUp();
@@ -179,6 +181,25 @@ void tst_MapPanel::otherButtonsDoNotDrag()
     sendMouse(*m_panel, QEvent::MouseButtonPress, middle, Qt::RightButton, Qt::RightButton);
     sendMouse(*m_panel, QEvent::MouseMove, middle + QPoint(30, 5), Qt::NoButton, Qt::RightButton);
     QVERIFY(m_panel->view() == before);
+}
+
+void tst_MapPanel::zoomLetsGo()
+{
+    sendMouse(*m_panel, QEvent::MouseButtonPress, middle, Qt::LeftButton, Qt::LeftButton);
+    turnWheel(*m_panel, middle, 240);
+    QTRY_VERIFY(!m_panel->isMoving());
+    const MapView zoomed = m_panel->view();
+    sendMouse(*m_panel, QEvent::MouseMove, middle + QPoint(9, 0), Qt::NoButton, Qt::LeftButton);
+    QVERIFY(m_panel->view() == zoomed);
+}
+
+void tst_MapPanel::lostReleaseLetsGo()
+{
+    const MapView before = m_panel->view();
+    sendMouse(*m_panel, QEvent::MouseButtonPress, middle, Qt::LeftButton, Qt::LeftButton);
+    sendMouse(*m_panel, QEvent::MouseMove, middle + QPoint(9, 0), Qt::NoButton, Qt::NoButton);
+    QVERIFY(m_panel->view() == before);
+    QCOMPARE(m_panel->cursor().shape(), Qt::OpenHandCursor);
 }
 
 void tst_MapPanel::wheelZoomsAtTheCursor_data()
