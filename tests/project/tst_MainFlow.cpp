@@ -19,6 +19,7 @@
 
 #include <QApplication>
 #include <QCalendarWidget>
+#include <QCursor>
 #include <QDirIterator>
 #include <QGraphicsScene>
 #include <QLabel>
@@ -253,6 +254,7 @@ private:
     void writeProjects() const;
     void show();
     void listenTo(Dialog& dialog);
+    void bringToFront() const;
     QWidget* openPopup(const char* button) const;
     static void clickDay(const QWidget& page, QDate day);
 
@@ -357,6 +359,14 @@ void tst_MainFlow::show()
     m_dialog->getProjectManagerWidget()->loadDefaultContiditions();
     m_dialog->move(100, 100);
     m_dialog->show();
+    bringToFront();
+}
+
+/// As a window manager does after a popup or a message.
+void tst_MainFlow::bringToFront() const
+{
+    QCursor::pos(); // Asks the display, which tells before it answers where the focus has gone.
+    QCoreApplication::processEvents();
     m_dialog->activateWindow();
     QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
 }
@@ -442,6 +452,7 @@ void tst_MainFlow::wholeFlow()
           &Flow::filterByKeyword, &Flow::createProject, &Flow::renameProject, &Flow::copyProject,
           &Flow::deleteProject, &Flow::openProject, &Flow::searchBlocks, &Flow::sortBlocks,
           &Flow::goBack, &Flow::openBlock}) {
+        bringToFront();
         (this->*step)();
         if (QTest::currentTestFailed())
             return;
