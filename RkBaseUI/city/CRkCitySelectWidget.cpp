@@ -203,7 +203,8 @@ void CRkCitySelectWidget::slotCitySelected(const QString& city)
 
 void CRkCitySelectWidget::slotButtonSetDefaultCityClicked()
 {
-    citySettings().setValue(defaultCityKey(), m_ui->labelCurrentCity->text());
+    QSettings settings = citySettings();
+    settings.setValue(defaultCityKey(), m_ui->labelCurrentCity->text());
 }
 
 void CRkCitySelectWidget::closeEvent(QCloseEvent* event)

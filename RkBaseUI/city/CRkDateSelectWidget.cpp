@@ -38,10 +38,12 @@ CRkDateSelectWidget::~CRkDateSelectWidget() = default;
 void CRkDateSelectWidget::SetActiveCalendarEdit(QLineEdit* edit)
 {
     m_activeEdit = edit;
-    if (edit && edit != m_ui->lineEditDateFrom && edit != m_ui->lineEditDateTo)
+    QLineEdit& from = *m_ui->lineEditDateFrom;
+    QLineEdit& to = *m_ui->lineEditDateTo;
+    if (edit && edit != &from && edit != &to)
         return;
-    for (QLineEdit* each : {m_ui->lineEditDateFrom, m_ui->lineEditDateTo})
-        each->setStyleSheet(each == edit ? activeStyle : passiveStyle);
+    from.setStyleSheet(edit == &from ? activeStyle : passiveStyle);
+    to.setStyleSheet(edit == &to ? activeStyle : passiveStyle);
 }
 
 bool CRkDateSelectWidget::eventFilter(QObject* object, QEvent* event)
