@@ -5,6 +5,8 @@
 
 /// Every public header of the library.
 
+#include <RkBaseUI/AntennaHeight.h>
+#include <RkBaseUI/CoordinateFormat.h>
 #include <RkBaseUI/CRkActionView.h>
 #include <RkBaseUI/CRkBaseDialog.h>
 #include <RkBaseUI/CRkBaseWidget.h>
@@ -13,6 +15,7 @@
 #include <RkBaseUI/CRkCityDateFilterWidget.h>
 #include <RkBaseUI/CRkCitySelectWidget.h>
 #include <RkBaseUI/CRkDateSelectWidget.h>
+#include <RkBaseUI/CRkCoordFormat.h>
 #include <RkBaseUI/CRkGraphicsBlockItem.h>
 #include <RkBaseUI/CRkGraphicsPixmapItem.h>
 #include <RkBaseUI/CRkGraphicsProjectImageItem.h>
@@ -30,6 +33,7 @@
 #include <RkBaseUI/CRkSlider.h>
 #include <RkBaseUI/CRkTableDelegate.h>
 #include <RkBaseUI/CRkTipPushButton.h>
+#include <RkBaseUI/CRkVerHighCalculator.h>
 #include <RkBaseUI/FlowLayout.h>
 #include <RkBaseUI/RkCityCategory.h>
 #include <RkBaseUI/RkCitySelectByCity.h>

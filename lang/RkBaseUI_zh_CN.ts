@@ -232,6 +232,45 @@
     </message>
 </context>
 <context>
+    <name>CRkCoordFormat</name>
+    <message>
+        <source>Dec</source>
+        <translation>十进制度</translation>
+    </message>
+    <message>
+        <source>DMS</source>
+        <translation>度分秒</translation>
+    </message>
+    <message>
+        <source>Latitude:</source>
+        <translation>纬度：</translation>
+    </message>
+    <message>
+        <source>Longitude:</source>
+        <translation>经度：</translation>
+    </message>
+    <message>
+        <source>Coordinate Format</source>
+        <translation>坐标格式</translation>
+    </message>
+    <message>
+        <source>dd.mmssss</source>
+        <translation>dd.mmssss</translation>
+    </message>
+    <message>
+        <source>ddd.mmssss</source>
+        <translation>ddd.mmssss</translation>
+    </message>
+    <message>
+        <source>Please input parameter.</source>
+        <translation>请输入纬度和经度。</translation>
+    </message>
+    <message>
+        <source>Invalid parameter.</source>
+        <translation>纬度或经度超出范围。</translation>
+    </message>
+</context>
+<context>
     <name>CRkDateSelectWidget</name>
     <message>
         <source>Yesterday</source>
@@ -306,6 +345,13 @@
     </message>
 </context>
 <context>
+    <name>CRkMenuButton</name>
+    <message>
+        <source>Alt+Down opens the list of tools</source>
+        <translation>按 Alt+向下键打开工具列表</translation>
+    </message>
+</context>
+<context>
     <name>CRkParameterEditPage</name>
     <message>
         <source>Parameter 1</source>
@@ -322,13 +368,6 @@
     <message>
         <source>Parameter 4</source>
         <translation>参数 4</translation>
-    </message>
-</context>
-<context>
-    <name>CRkMenuButton</name>
-    <message>
-        <source>Alt+Down opens the list of tools</source>
-        <translation>按 Alt+向下键打开工具列表</translation>
     </message>
 </context>
 <context>
@@ -484,6 +523,37 @@
     <message>
         <source>Search</source>
         <translation>搜索</translation>
+    </message>
+</context>
+<context>
+    <name>CRkVerHighCalculator</name>
+    <message>
+        <source>Antenna on a tripod above the mark, with the lengths L, G and P and the vertical height H</source>
+        <translation>三脚架上的天线与地面标志，标注长度 L、G、P 和垂高 H</translation>
+    </message>
+    <message>
+        <source>Vertical offset P, in metres</source>
+        <translation>垂直改正量 P（米）</translation>
+    </message>
+    <message>
+        <source>Vertical offset G, in metres</source>
+        <translation>垂直改正量 G（米）</translation>
+    </message>
+    <message>
+        <source>Slant height L from the mark to the edge of the antenna, in metres</source>
+        <translation>斜高 L：地面标志中心至天线边缘（米）</translation>
+    </message>
+    <message>
+        <source>Vertical Hight Calculator</source>
+        <translation>天线垂高计算</translation>
+    </message>
+    <message>
+        <source>Please input all base station parameter.</source>
+        <translation>请输入基站的全部参数。</translation>
+    </message>
+    <message>
+        <source>Invalid value, please check base station parameter.</source>
+        <translation>数值无效，请检查基站参数。</translation>
     </message>
 </context>
 <context>

@@ -6,60 +6,15 @@
 
 #include <RkBaseUI/CRkGraphicsProjectRectItem.h>
 #include <RkBaseUI/CRkGraphicsProjectTextItem.h>
-#include <RkBaseUI/CRkMessageBox.h>
 #include <RkBaseUI/CRkProjectManagerView.h>
 
-#include <QApplication>
 #include <QFile>
-#include <QPainter>
-#include <QPushButton>
-#include <QTimer>
 
 namespace {
 
 using GalleryParts::firstTile;
 using GalleryParts::viewOf;
-
-/// Calls a function for every message box that comes up while the object lives.
-class BoxWatch : public QObject
-{
-public:
-    explicit BoxWatch(std::function<void(CRkMessageBox&)> onBox)
-        : m_onBox(std::move(onBox))
-    {
-        qApp->installEventFilter(this);
-    }
-
-    bool eventFilter(QObject* watched, QEvent* event) override
-    {
-        auto* box = qobject_cast<CRkMessageBox*>(watched);
-        if (box && event->type() == QEvent::Show)
-            QTimer::singleShot(0, box, [this, box] { m_onBox(*box); });
-        return false;
-    }
-
-private:
-    const std::function<void(CRkMessageBox&)> m_onBox;
-};
-
-/// The window with the last message box that the action brings up over its middle. Questions are
-/// answered with `answer`.
-QImage withMessage(QWidget& window, const std::function<void()>& action,
-                   const char* answer = "m_pBtnCancel")
-{
-    QPixmap picture;
-    const BoxWatch watch([&](CRkMessageBox& box) {
-        picture = window.grab();
-        const QPoint middle = window.rect().center() - box.rect().center();
-        QPainter(&picture).drawPixmap(middle, box.grab());
-        const auto* cancel = box.findChild<QPushButton*>(QStringLiteral("m_pBtnCancel"));
-        box.findChild<QPushButton*>(cancel->isHidden() ? QStringLiteral("m_pBtnOK")
-                                                       : QLatin1String(answer))
-            ->click();
-    });
-    action();
-    return picture.toImage();
-}
+using GalleryParts::withMessage;
 
 QImage copyWithoutSelection(QWidget& window)
 {

@@ -4,13 +4,17 @@
 #include "app/GalleryParts.h"
 
 #include <RkBaseUI/CRkGraphicsProjectRectItem.h>
+#include <RkBaseUI/CRkMessageBox.h>
 #include <RkBaseUI/CRkProjectManagerView.h>
 #include <RkData/CRkControl.h>
 
 #include <QDirIterator>
+#include <QApplication>
 #include <QGraphicsScene>
 #include <QMouseEvent>
+#include <QPainter>
 #include <QPushButton>
+#include <QTimer>
 #include <QVBoxLayout>
 
 #include <algorithm>
@@ -29,6 +33,44 @@ const char* const pageStyle = R"(
 #page QScrollBar::add-line, #page QScrollBar::sub-line { height: 0; }
 #page QScrollBar::add-page, #page QScrollBar::sub-page { background: transparent; }
 )";
+
+/// Calls a function for every message box that comes up while the object lives.
+class BoxWatch : public QObject
+{
+public:
+    explicit BoxWatch(std::function<void(CRkMessageBox&)> onBox)
+        : m_onBox(std::move(onBox))
+    {
+        qApp->installEventFilter(this);
+    }
+
+    bool eventFilter(QObject* watched, QEvent* event) override
+    {
+        auto* box = qobject_cast<CRkMessageBox*>(watched);
+        if (box && event->type() == QEvent::Show)
+            QTimer::singleShot(0, box, [this, box] { m_onBox(*box); });
+        return false;
+    }
+
+private:
+    const std::function<void(CRkMessageBox&)> m_onBox;
+};
+
+/// One widget over the middle of another.
+QPixmap stacked(QWidget& below, QWidget& above)
+{
+    constexpr int margin = 24;
+    const QSize room = above.size() + QSize(margin, margin) * 2;
+    const QRect canvas(QPoint(0, 0), below.size().expandedTo(room));
+    const qreal scale = below.devicePixelRatioF();
+    QPixmap picture(canvas.size() * scale);
+    picture.setDevicePixelRatio(scale);
+    picture.fill(QColor(214, 220, 230)); // Of a desktop, seen where the window ends.
+    QPainter painter(&picture);
+    for (QWidget* widget : {&below, &above})
+        painter.drawPixmap(canvas.center() - widget->rect().center(), widget->grab());
+    return picture;
+}
 
 } // namespace
 
@@ -91,6 +133,20 @@ CRkGraphicsProjectRectItem& firstTile(QWidget& window)
     return **std::min_element(tiles.cbegin(), tiles.cend(), [](const auto* a, const auto* b) {
         return a->y() < b->y() || (a->y() == b->y() && a->x() < b->x());
     });
+}
+
+QImage withMessage(QWidget& window, const std::function<void()>& action, const char* answer)
+{
+    QPixmap picture;
+    const BoxWatch watch([&](CRkMessageBox& box) {
+        picture = stacked(window, box);
+        const auto* cancel = box.findChild<QPushButton*>(QStringLiteral("m_pBtnCancel"));
+        box.findChild<QPushButton*>(cancel->isHidden() ? QStringLiteral("m_pBtnOK")
+                                                       : QLatin1String(answer))
+            ->click();
+    });
+    action();
+    return picture.toImage();
 }
 
 } // namespace GalleryParts

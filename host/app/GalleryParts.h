@@ -4,9 +4,11 @@
 #pragma once
 
 #include <QCoreApplication>
+#include <QImage>
 #include <QList>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 class CRkGraphicsProjectRectItem;
@@ -43,5 +45,10 @@ void hover(QWidget& widget);
 
 /// The same for a button of the window.
 void hover(QWidget& window, const char* button);
+
+/// The window with the last message box that the action brings up over its middle, on a larger
+/// ground where the box is larger than the window. Questions are answered with `answer`.
+QImage withMessage(QWidget& window, const std::function<void()>& action,
+                   const char* answer = "m_pBtnCancel");
 
 } // namespace GalleryParts

@@ -34,5 +34,8 @@ QVector<Gallery::Entry> galleryDialogs();
 /// Of these, sheets of controls in their states.
 QVector<Gallery::Entry> galleryControls();
 
+/// Of these, the dialogs that compute one thing from a few numbers.
+QVector<Gallery::Entry> galleryCalculators();
+
 /// Of these, all pictures of the library on both grounds on which they are shown.
 QVector<Gallery::Entry> galleryPictures();

@@ -213,7 +213,8 @@ void tst_Gallery::programShowsEveryWindow()
           "date-picker-from", "date-picker-to", "filter-bar", "filter-bar-city",
           "filter-bar-date", "block-page", "block-page-searched", "block-page-sorted",
           "block-page-disabled", "block-page-empty", "base-dialog", "base-dialog-ok-hover",
-          "base-widget"})
+          "base-widget", "height-filled", "height-refused", "coordinates-filled",
+          "coordinates-refused"})
         QVERIFY2(run.files.contains(file(QLatin1String(name), language, scale)), name);
     QSet<QByteArray> contents;
     for (const QString& path : run.files) {

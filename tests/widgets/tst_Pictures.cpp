@@ -47,6 +47,7 @@ QMap<QString, QSize> wantedSizes()
     QMap<QString, QSize> sizes{
         {"Common_close1_but_nor.png", {32, 32}},
         {"Exclamation_mark.png", {43, 43}},
+        {"GNSS_plumb_PIC_1.png", {141, 186}},
         {"corvellogo42.png", {43, 43}},
         {"ProjMgr/titl_logo.png", {34, 24}},
         {"ProjMgr/btn_nor.png", dialogButton},
