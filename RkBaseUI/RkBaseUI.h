@@ -21,6 +21,8 @@
 #include <RkBaseUI/CRkGraphicsProjectImageItem.h>
 #include <RkBaseUI/CRkGraphicsProjectRectItem.h>
 #include <RkBaseUI/CRkGraphicsProjectTextItem.h>
+#include <RkBaseUI/CRkLightDir.h>
+#include <RkBaseUI/CRkLightWgt.h>
 #include <RkBaseUI/CRkMenuButton.h>
 #include <RkBaseUI/CRkMessageBox.h>
 #include <RkBaseUI/CRkOpenedProjectInfo.h>
@@ -35,6 +37,7 @@
 #include <RkBaseUI/CRkTipPushButton.h>
 #include <RkBaseUI/CRkVerHighCalculator.h>
 #include <RkBaseUI/FlowLayout.h>
+#include <RkBaseUI/LightDirection.h>
 #include <RkBaseUI/RkCityCategory.h>
 #include <RkBaseUI/RkCitySelectByCity.h>
 #include <RkBaseUI/RkCitySelectByProvince.h>

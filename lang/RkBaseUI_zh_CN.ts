@@ -345,6 +345,65 @@
     </message>
 </context>
 <context>
+    <name>CRkLightWgt</name>
+    <message>
+        <source>Light Dir</source>
+        <translation>光照方向</translation>
+    </message>
+    <message>
+        <source>Light direction</source>
+        <translation>光照方向</translation>
+    </message>
+    <message>
+        <source>Azimuth:</source>
+        <translation>方位角：</translation>
+    </message>
+    <message>
+        <source>Elevation:</source>
+        <translation>高度角：</translation>
+    </message>
+    <message>
+        <source>ambient uKa:</source>
+        <translation>环境光系数 uKa：</translation>
+    </message>
+    <message>
+        <source>diffuse uKd:</source>
+        <translation>漫反射系数 uKd：</translation>
+    </message>
+    <message>
+        <source>specular uKs:</source>
+        <translation>镜面反射系数 uKs：</translation>
+    </message>
+    <message>
+        <source>light color:</source>
+        <translation>光源颜色：</translation>
+    </message>
+    <message>
+        <source>Light color</source>
+        <translation>光源颜色</translation>
+    </message>
+    <message>
+        <source>specular color:</source>
+        <translation>镜面光颜色：</translation>
+    </message>
+    <message>
+        <source>Specular color</source>
+        <translation>镜面光颜色</translation>
+    </message>
+    <message>
+        <source>shininess:</source>
+        <translation>高光指数：</translation>
+    </message>
+    <message>
+        <source>blend:</source>
+        <translation>混合系数：</translation>
+    </message>
+    <message>
+        <source>Light Parameter</source>
+        <translation>光照参数</translation>
+    </message>
+</context>
+<context>
     <name>CRkMenuButton</name>
     <message>
         <source>Alt+Down opens the list of tools</source>

@@ -31,6 +31,9 @@ QVector<Gallery::Entry> galleryMessages();
 /// Of these, the dialogs and other windows with a frame of the library's own.
 QVector<Gallery::Entry> galleryDialogs();
 
+/// Of these, the light of a 3-D view.
+QVector<Gallery::Entry> galleryLight();
+
 /// Of these, sheets of controls in their states.
 QVector<Gallery::Entry> galleryControls();
 
