@@ -6,7 +6,6 @@
 /// Every public header of the library.
 
 #include <RkBaseUI/AntennaHeight.h>
-#include <RkBaseUI/CoordinateFormat.h>
 #include <RkBaseUI/CRkActionView.h>
 #include <RkBaseUI/CRkBaseDialog.h>
 #include <RkBaseUI/CRkBaseWidget.h>
@@ -14,8 +13,8 @@
 #include <RkBaseUI/CRkBlockManagerWidget.h>
 #include <RkBaseUI/CRkCityDateFilterWidget.h>
 #include <RkBaseUI/CRkCitySelectWidget.h>
-#include <RkBaseUI/CRkDateSelectWidget.h>
 #include <RkBaseUI/CRkCoordFormat.h>
+#include <RkBaseUI/CRkDateSelectWidget.h>
 #include <RkBaseUI/CRkGraphicsBlockItem.h>
 #include <RkBaseUI/CRkGraphicsPixmapItem.h>
 #include <RkBaseUI/CRkGraphicsProjectImageItem.h>
@@ -36,6 +35,8 @@
 #include <RkBaseUI/CRkTableDelegate.h>
 #include <RkBaseUI/CRkTipPushButton.h>
 #include <RkBaseUI/CRkVerHighCalculator.h>
+#include <RkBaseUI/CRkVolumeWgt.h>
+#include <RkBaseUI/CoordinateFormat.h>
 #include <RkBaseUI/FlowLayout.h>
 #include <RkBaseUI/LightDirection.h>
 #include <RkBaseUI/RkCityCategory.h>
@@ -44,4 +45,5 @@
 #include <RkBaseUI/RkEditorDescriptor.h>
 #include <RkBaseUI/RkHoveredPushButton.h>
 #include <RkBaseUI/SharedHelpers.h>
+#include <RkBaseUI/SquareGridVolume.h>
 #include <RkBaseUI/ToolTypes.h>

@@ -616,10 +616,118 @@
     </message>
 </context>
 <context>
+    <name>CRkVolumeWgt</name>
+    <message>
+        <source>Earthwork measurement</source>
+        <translation>土方量计算</translation>
+    </message>
+    <message>
+        <source>Average Plane</source>
+        <translation>平均高程面</translation>
+    </message>
+    <message>
+        <source>Minimum Plane</source>
+        <translation>最低高程面</translation>
+    </message>
+    <message>
+        <source>Custom </source>
+        <translation>自定义</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>自定义</translation>
+    </message>
+    <message>
+        <source>Index</source>
+        <translation>点号</translation>
+    </message>
+    <message>
+        <source>Terrain Elevation</source>
+        <translation>地面标高</translation>
+    </message>
+    <message>
+        <source>Leveling Elevation</source>
+        <translation>平整标高</translation>
+    </message>
+    <message>
+        <source>Design Elevation</source>
+        <translation>设计标高</translation>
+    </message>
+    <message>
+        <source>Construction Elevation</source>
+        <translation>施工高度</translation>
+    </message>
+    <message>
+        <source>Area:</source>
+        <translation>面积：</translation>
+    </message>
+    <message>
+        <source>Excavation:</source>
+        <translation>挖方：</translation>
+    </message>
+    <message>
+        <source>Fill:</source>
+        <translation>填方：</translation>
+    </message>
+</context>
+<context>
     <name>RkCityCategory</name>
     <message>
         <source>N/A</source>
         <translation>无</translation>
+    </message>
+</context>
+<context>
+    <name>RkVolumeWgt</name>
+    <message>
+        <source>Grid</source>
+        <translation>方格网</translation>
+    </message>
+    <message>
+        <source>Grid length:</source>
+        <translation>方格边长：</translation>
+    </message>
+    <message>
+        <source>Generate</source>
+        <translation>生成</translation>
+    </message>
+    <message>
+        <source>Ensure</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>Drag and drop the removable mesh in the test area,
+ and press the ALT button to drag and rotate the mesh !</source>
+        <translation>请将可移动的方格网拖放到测区内，
+按住 ALT 键拖动可旋转方格网！</translation>
+    </message>
+    <message>
+        <source>Design</source>
+        <translation>设计面</translation>
+    </message>
+    <message>
+        <source>Elevation design:</source>
+        <translation>设计标高：</translation>
+    </message>
+    <message>
+        <source>Elevations of the points</source>
+        <translation>各点标高</translation>
+    </message>
+    <message>
+        <source>Computer</source>
+        <translation>计算</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Area, excavation and fill appear here.</source>
+        <translation>面积、挖方量和填方量显示在此处。</translation>
+    </message>
+    <message>
+        <source>Result</source>
+        <translation>计算结果</translation>
     </message>
 </context>
 </TS>

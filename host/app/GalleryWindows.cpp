@@ -69,6 +69,6 @@ QVector<Gallery::Entry> galleryWindows()
         {QStringLiteral("view-city"), viewPage, filterByCity},
     };
     return pages + galleryHost() + galleryProjects() + galleryCity() + galleryDates()
-        + galleryBlocks() + galleryCalculators() + galleryDialogs() + galleryLight()
-        + galleryControls() + galleryPictures() + galleryMessages();
+        + galleryBlocks() + galleryCalculators() + galleryTools() + galleryLight()
+        + galleryDialogs() + galleryControls() + galleryPictures() + galleryMessages();
 }

@@ -34,6 +34,9 @@ QVector<Gallery::Entry> galleryDialogs();
 /// Of these, the light of a 3-D view.
 QVector<Gallery::Entry> galleryLight();
 
+/// Of these, the survey tools.
+QVector<Gallery::Entry> galleryTools();
+
 /// Of these, sheets of controls in their states.
 QVector<Gallery::Entry> galleryControls();
 

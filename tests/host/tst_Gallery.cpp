@@ -214,7 +214,7 @@ void tst_Gallery::programShowsEveryWindow()
           "filter-bar-date", "block-page", "block-page-searched", "block-page-sorted",
           "block-page-disabled", "block-page-empty", "base-dialog", "base-dialog-ok-hover",
           "base-widget", "height-filled", "height-refused", "coordinates-filled",
-          "coordinates-refused"})
+          "coordinates-refused", "earthwork-empty", "earthwork-custom", "earthwork-computed"})
         QVERIFY2(run.files.contains(file(QLatin1String(name), language, scale)), name);
     QSet<QByteArray> contents;
     for (const QString& path : run.files) {
