@@ -5,6 +5,7 @@
 
 /// Every public header of the library.
 
+#include <RkBaseUI/AirLineParam.h>
 #include <RkBaseUI/AntennaHeight.h>
 #include <RkBaseUI/CRkActionView.h>
 #include <RkBaseUI/CRkBaseDialog.h>
@@ -39,6 +40,7 @@
 #include <RkBaseUI/CoordinateFormat.h>
 #include <RkBaseUI/FlowLayout.h>
 #include <RkBaseUI/LightDirection.h>
+#include <RkBaseUI/PolygonChecks.h>
 #include <RkBaseUI/RkCityCategory.h>
 #include <RkBaseUI/RkCitySelectByCity.h>
 #include <RkBaseUI/RkCitySelectByProvince.h>

@@ -39,17 +39,19 @@ function(rk_export_header target package prefix)
     install(FILES "${header}" DESTINATION "${CMAKE_INSTALL_INCLUDEDIR}/${package}" COMPONENT ${RK_INSTALL_COMPONENT})
 endfunction()
 
-# rk_add_platform_library(<name> HEADERS <header>... SOURCES <source>... LINK <target>...)
+# rk_add_platform_library(<name> HEADERS <header>... SOURCES <source>... LINK <target>...
+#     [PRIVATE_LINK <target>...])
 #
-# One shared library of the package RkPlatform, with its generated export header.
+# One shared library of the package RkPlatform, with its generated export header. What is linked privately is no
+# concern of whoever uses the package.
 function(rk_add_platform_library name)
-    cmake_parse_arguments(ARG "" "" "HEADERS;SOURCES;LINK" ${ARGN})
+    cmake_parse_arguments(ARG "" "" "HEADERS;SOURCES;LINK;PRIVATE_LINK" ${ARGN})
     add_library(${name} SHARED ${ARG_SOURCES} ${ARG_HEADERS})
     add_library(RkPlatform::${name} ALIAS ${name})
     string(TOUPPER ${name} prefix)
     set_target_properties(${name} PROPERTIES VERSION ${PROJECT_VERSION} SOVERSION ${PROJECT_VERSION_MAJOR})
     target_compile_features(${name} PUBLIC cxx_std_17)
-    target_link_libraries(${name} PUBLIC ${ARG_LINK})
+    target_link_libraries(${name} PUBLIC ${ARG_LINK} PRIVATE ${ARG_PRIVATE_LINK})
     rk_set_warnings(${name})
     rk_export_header(${name} ${name} ${prefix})
     rk_public_headers(${name} ${name} ${ARG_HEADERS})

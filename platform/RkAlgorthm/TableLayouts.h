@@ -15,7 +15,8 @@
 RKALGORTHM_EXPORT QString GetProjectTableContents();
 
 /// Survey areas (blocks); `project_id` is the project's `id`. Outlines are written
-/// "lat,lng;lat,lng".
+/// "lat,lng;lat,lng". From `relative_fly_height` on follow the task parameters, in the units of
+/// CRkTaskPara and CRkExtendedTaskParam; flags are 0 or 1.
 RKALGORTHM_EXPORT QString GetSurveyAreaTableContents();
 
 /// Flight tasks; `survey_block_id` is the `survey_area_guid` of their area.

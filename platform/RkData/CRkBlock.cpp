@@ -6,6 +6,8 @@
 #include "CRkControl.h"
 #include "CRkDataBase.h"
 #include "CRkTask.h"
+#include "CRkTaskPara.h"
+#include "TaskParaReader.h"
 
 #include <RkAlgorthm/Constants.h>
 #include <RkAlgorthm/Gravity.h>
@@ -92,6 +94,7 @@ bool CRkBlock::Load(const QString& tableName, const QString& projectId,
     if (SoftwareVersionIsOld(softwareVersion))
         takeToWgs84(outline);
     SetAnchor(outline);
+    m_parameters = readTaskPara(area, columns);
 
     m_tasks.clear();
     QSqlQuery tasks = database->exec("select flight_task_guid from " + MissionTableName
@@ -113,6 +116,16 @@ void CRkBlock::AddTask(std::unique_ptr<CRkTask> task)
 {
     if (task)
         m_tasks.push_back(std::move(task));
+}
+
+CRkTaskPara* CRkBlock::GetTaskPara() const
+{
+    return m_parameters.get();
+}
+
+void CRkBlock::SetTaskPara(std::unique_ptr<CRkTaskPara> parameters)
+{
+    m_parameters = std::move(parameters);
 }
 
 PointLatLng CRkBlock::GetGravityPoint() const

@@ -16,6 +16,7 @@
 
 class CRkDataBase;
 class CRkTask;
+class CRkTaskPara;
 
 /// One survey area of a project with its flight tasks.
 ///
@@ -34,11 +35,11 @@ public:
     QString GetBlockID() const;
     void SetBlockID(const QString& id);
 
-    /// Reads the first row of the table that belongs to the project and bears the block's id, and
-    /// the block's tasks. `softwareVersion` is that of the project: outlines of an old one are
-    /// taken to WGS84. Pieces of the outline that are no pair of numbers are left out; a missing
-    /// column leaves its value empty. False, with the block as it was, when there is no such row.
-    /// The caller keeps a block that failed to load, and always the database.
+    /// Reads the first row of the table that belongs to the project and bears the block's id, with
+    /// its task parameters, and the block's tasks. `softwareVersion` is that of the project:
+    /// outlines of an old one are taken to WGS84. Pieces of the outline that are no pair of numbers
+    /// are left out; a missing column leaves its value empty. False, with the block as it was, when
+    /// there is no such row. The caller keeps a block that failed to load, and always the database.
     bool Load(const QString& tableName, const QString& projectId, const QString& softwareVersion,
               CRkDataBase* database);
 
@@ -47,6 +48,12 @@ public:
     QList<CRkTask*> GetMissionList() const;
     /// Appends a task; null is ignored.
     void AddTask(std::unique_ptr<CRkTask> task);
+
+    /// How the block is to be flown; null without parameters. They belong to the block and go with
+    /// it or with the next Load, which leaves none when the row has no `relative_fly_height`, and
+    /// none with an extended part when it has no `task_type`.
+    CRkTaskPara* GetTaskPara() const;
+    void SetTaskPara(std::unique_ptr<CRkTaskPara> parameters);
 
     /// The centroid of the outline, see GetLatLngGravityByLatLng; (0, 0) without one.
     PointLatLng GetGravityPoint() const;
@@ -63,5 +70,6 @@ private:
     QString m_blockId;
     EBlockType m_type = BlockTypeNone;
     QList<QPointF> m_outline;
+    std::unique_ptr<CRkTaskPara> m_parameters;
     std::vector<std::unique_ptr<CRkTask>> m_tasks;
 };

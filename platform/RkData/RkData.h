@@ -9,4 +9,6 @@
 #include <RkData/CRkBlockManager.h>
 #include <RkData/CRkControl.h>
 #include <RkData/CRkDataBase.h>
+#include <RkData/CRkExtendedTaskParam.h>
 #include <RkData/CRkTask.h>
+#include <RkData/CRkTaskPara.h>

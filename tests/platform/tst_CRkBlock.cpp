@@ -9,6 +9,7 @@
 #include <RkData/CRkControl.h>
 #include <RkData/CRkDataBase.h>
 #include <RkData/CRkTask.h>
+#include <RkData/CRkTaskPara.h>
 
 #include <QtTest>
 
@@ -64,6 +65,9 @@ private slots:
     void withoutOptionalColumns();
     void quotesInIdentifiers();
     void tasksKeepTheirFlightCount();
+    void taskParameters();
+    void taskParametersByDefault();
+    void blocksWithoutTaskParameters();
 
 private:
     bool loadFrom(CRkBlock& block, const QString& guid,
@@ -102,6 +106,7 @@ void tst_CRkBlock::emptyBlock()
     QCOMPARE(block.GetAnchor(), Outline());
     QCOMPARE(block.GetBlockType(), BlockTypeNone);
     QVERIFY(block.GetMissionList().isEmpty());
+    QVERIFY(!block.GetTaskPara());
     QCOMPARE(block.GetGravityPoint().Lat(), 0.0);
     QCOMPARE(block.GetGravityPoint().Lng(), 0.0);
 }
@@ -301,6 +306,92 @@ void tst_CRkBlock::tasksKeepTheirFlightCount()
     block.GetMissionList().first()->m_nFlightCount = 7;
     QCOMPARE(block.GetMissionList().first()->m_nFlightCount, 7);
     QCOMPARE(block.GetMissionList().last()->m_nFlightCount, 0);
+}
+
+void tst_CRkBlock::taskParameters()
+{
+    QVERIFY(runSql(
+        m_file,
+        {"UPDATE " + SurveyAreaTableName
+         + " SET plane_type='Quadrotor', camera_type='Thermal', relative_fly_height=320.5,"
+           " return_route=1, default_airspeed=17.5, air_line_angle=33.5, banding_offset_left=110,"
+           " banding_offset_right=120, expected_route_count=21, expected_mission_count=3,"
+           " including_transfer_points=1, generate_frame_route=1, longitudinal_outline_number=4,"
+           " lateral_outline_number=5, connect_route=1, direction_of_flight=2,"
+           " single_task_mileage=12.25, task_type=2, surround_margin=41.5, pitch_mode_of_tilt=6,"
+           " route_generate_mode=1, camera_orientation=7, photograph_mode=8,"
+           " margin_between_route_area_edge=42.5, pitch_angle_of_tilt=43.5, flying_mode=9,"
+           " route_min_height=44.5, object_height=45.5 WHERE survey_area_guid='a'"}));
+    CRkBlock block;
+    QVERIFY(loadFrom(block, "a"));
+    const CRkTaskPara* const task = block.GetTaskPara();
+    QVERIFY(task);
+    QCOMPARE(task->GetAirLineParam().GetRelativeFlyHeight(), 320.5);
+    QCOMPARE(task->GetPlaneType(), PlaneTypeQuadrotor);
+    QCOMPARE(task->GetCameraType(), CameraTypeThermal);
+    QCOMPARE(task->IsReturnRoute(), true);
+    QCOMPARE(task->GetDefaultAirspeed(), 17.5);
+    QCOMPARE(task->GetAirLineAngle(), 33.5);
+    double left = 0;
+    double right = 0;
+    task->GetBandingOffset(left, right);
+    QCOMPARE(left, 110.0);
+    QCOMPARE(right, 120.0);
+    QCOMPARE(task->GetExpectedRouteCount(), 21);
+    QCOMPARE(task->GetExpectedMissionCount(), 3);
+    QCOMPARE(task->GetIncludingTransferPoints(), true);
+    QCOMPARE(task->GetGenerateFrameRoute(), true);
+    QCOMPARE(task->GetLongitudinalOutlineNumber(), 4);
+    QCOMPARE(task->GetLateralOutlineNumber(), 5);
+    QCOMPARE(task->IsConnectRoute(), true);
+    QCOMPARE(task->GetDirectionOfFlight(), 2);
+    QCOMPARE(task->GetBlockSingleTaskMileage(), 12.25);
+    const CRkExtendedTaskParam* const extended = task->GetExtendedTaskParam();
+    QVERIFY(extended);
+    QCOMPARE(extended->GetTaskType(), TaskTypeSurround);
+    QCOMPARE(extended->GetSurroundMragin(), 41.5);
+    QCOMPARE(extended->GetPitchModeOfTilt(), 6);
+    QCOMPARE(extended->GetRouteGenerateMode(), RouteGenerateTerrainFollowing);
+    QCOMPARE(extended->GetCameraOrientation(), 7);
+    QCOMPARE(extended->GetPhotographMode(), 8);
+    QCOMPARE(extended->GetMarginBetweenRouteAreaEdge(), 42.5);
+    QCOMPARE(extended->GetPitchAngleOfTilt(), 43.5);
+    QCOMPARE(extended->GetFlyingMode(), 9);
+    QCOMPARE(extended->GetRouteMinHeight(), 44.5);
+    QCOMPARE(extended->GetObjectHeight(), 45.5);
+}
+
+void tst_CRkBlock::taskParametersByDefault()
+{
+    QVERIFY(runSql(m_file,
+                   {"UPDATE " + SurveyAreaTableName
+                    + " SET relative_fly_height='high', air_line_angle=9e999, default_airspeed='?'"
+                      " WHERE survey_area_guid='a'"}));
+    CRkBlock block;
+    QVERIFY(loadFrom(block, "a"));
+    const CRkTaskPara* const task = block.GetTaskPara();
+    QVERIFY(task);
+    QCOMPARE(task->GetAirLineParam().GetRelativeFlyHeight(), 0.0);
+    QCOMPARE(task->GetAirLineAngle(), -1.0);
+    QCOMPARE(task->GetDefaultAirspeed(), 0.0);
+    QCOMPARE(task->GetPlaneType(), PlaneTypeUnknown);
+    QCOMPARE(task->IsReturnRoute(), false);
+    QCOMPARE(task->GetBlockSingleTaskMileage(), -1.0);
+    QVERIFY(!task->GetExtendedTaskParam());
+}
+
+void tst_CRkBlock::blocksWithoutTaskParameters()
+{
+    QVERIFY(runSql(m_file,
+                   {"UPDATE " + SurveyAreaTableName
+                    + " SET task_type=1, default_airspeed=3 WHERE survey_area_guid='a'"}));
+    CRkBlock block;
+    block.SetTaskPara(std::make_unique<CRkTaskPara>());
+    QVERIFY(block.GetTaskPara());
+    QVERIFY(!loadFrom(block, "no such block"));
+    QVERIFY(block.GetTaskPara());
+    QVERIFY(loadFrom(block, "a"));
+    QVERIFY(!block.GetTaskPara());
 }
 
 QTEST_GUILESS_MAIN(tst_CRkBlock)

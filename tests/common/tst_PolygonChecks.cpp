@@ -1,0 +1,461 @@
+// SPDX-FileCopyrightText: 2026 The RkBaseUI developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+
+#include <RkAlgorthm/CRkCreateAirline.h>
+#include <RkBaseUI/PolygonChecks.h>
+
+#include <QLineF>
+#include <QtTest>
+
+#include <algorithm>
+#include <cmath>
+#include <limits>
+#include <random>
+
+using Outline = std::vector<QPointF>;
+using Ring = std::vector<CRkPoint2D>;
+
+Q_DECLARE_METATYPE(Outline)
+
+namespace {
+
+const Outline square = {{0, 0}, {1, 0}, {1, 1}, {0, 1}};
+
+Outline reversed(Outline outline)
+{
+    std::reverse(outline.begin(), outline.end());
+    return outline;
+}
+
+/// What isConvex answers by its definition.
+bool literalIsConvex(const Outline& polygon)
+{
+    const std::size_t n = polygon.size();
+    if (n < 4)
+        return true;
+    std::vector<bool> senses;
+    for (std::size_t i = 0; i < n; ++i) {
+        const QPointF p = polygon[i];
+        const QPointF m = polygon[(i + 1) % n];
+        const QPointF q = polygon[(i + 2) % n];
+        const double t = (p.y() - m.y()) * (q.x() - m.x()) - (q.y() - m.y()) * (p.x() - m.x());
+        senses.push_back(t > 0.0);
+    }
+    return std::all_of(senses.begin(), senses.end(), [&](bool s) { return s == senses.front(); });
+}
+
+/// What isSelfIntersection answers by its definition: every edge against a list of all the others.
+bool literalIsSelfIntersection(const Outline& polygon)
+{
+    const std::size_t n = polygon.size();
+    std::vector<QLineF> edges;
+    for (std::size_t i = 0; i < n; ++i)
+        edges.emplace_back(polygon[i], polygon[(i + 1) % n]);
+    for (std::size_t e = 0; e < n; ++e) {
+        int hits = 0;
+        for (std::size_t f = 0; f < n; ++f) {
+            QPointF point;
+            if (f != e && edges[e].intersects(edges[f], &point) == QLineF::BoundedIntersection
+                && !(point.x() == 0 && point.y() == 0)) {
+                ++hits;
+            }
+            if (hits > 2)
+                return true;
+        }
+    }
+    return false;
+}
+
+/// Random outlines of every kind that could fool a faster search.
+class Outlines
+{
+public:
+    explicit Outlines(unsigned seed)
+        : m_engine(seed)
+    {
+    }
+
+    static constexpr int kinds = 14;
+
+    Outline make(int kind, int count)
+    {
+        switch (kind) {
+        case 0:
+            return filled(count, [this] { return QPointF(real(-1, 1), real(-1, 1)); });
+        case 1: // crossings, touches, repeated vertices, collinear runs on a coarse grid
+            return filled(count, [this] { return QPointF(whole(-3, 3), whole(-3, 3)); });
+        case 2:
+            return star(count, 0);
+        case 3:
+            return star(count, 0.3);
+        case 4: // one line, turned: parallel but for rounding
+            return turned(
+                filled(count, [this] { return QPointF(whole(0, 40), whole(0, 9) == 0 ? 1 : 0); }));
+        case 5:
+            return turned(comb(count));
+        case 6:
+            return scaled(make(whole(0, 5), count), whole(0, 1) ? 1e150 : 1e-150);
+        case 7:
+            return scaled(make(whole(0, 5), count), std::pow(10.0, whole(-320, 308)));
+        case 8:
+            return withOdd(make(whole(0, 5), count));
+        case 9: // lines through the origin, so that many crossings lie there
+            return filled(count, [this] {
+                const int way = whole(0, 3);
+                return whole(-2, 2) * QPointF(way % 2 ? 1 : way, way ? 1 : 0);
+            });
+        case 10: // far from the origin, as UTM coordinates are
+            return moved(make(whole(0, 5), count), QPointF(5e5, 3.3e6));
+        case 11:
+            return nearlyStraight(count);
+        case 12:
+            return touching(star(count, 0.5));
+        default:
+            return mixedScales(count);
+        }
+    }
+
+    int whole(int low, int high) { return std::uniform_int_distribution<int>(low, high)(m_engine); }
+    double real(double low, double high)
+    {
+        return std::uniform_real_distribution<double>(low, high)(m_engine);
+    }
+
+    Outline comb(int count)
+    {
+        Outline outline;
+        const double height = real(0.1, 20);
+        for (int i = 0; i < count / 4; ++i) {
+            for (const QPointF& corner :
+                 {QPointF(i, 0), QPointF(i, height), QPointF(i + 0.5, height), QPointF(i + 0.5, 0)})
+                outline.push_back(corner);
+        }
+        outline.emplace_back(count / 4, -1);
+        outline.emplace_back(0, -1);
+        return outline;
+    }
+
+    Outline star(int count, double inner)
+    {
+        std::vector<double> angles;
+        for (int i = 0; i < count; ++i)
+            angles.push_back(real(0, 6.28));
+        std::sort(angles.begin(), angles.end());
+        Outline outline;
+        for (const double angle : angles) {
+            const double radius = real(inner, 1);
+            outline.emplace_back(radius * std::cos(angle), radius * std::sin(angle));
+        }
+        return outline;
+    }
+
+    Outline turned(Outline outline)
+    {
+        const double angle = real(0, 6.28);
+        for (QPointF& point : outline) {
+            point = QPointF(point.x() * std::cos(angle) - point.y() * std::sin(angle),
+                            point.x() * std::sin(angle) + point.y() * std::cos(angle));
+        }
+        return outline;
+    }
+
+private:
+    template <typename Make>
+    static Outline filled(int count, Make make)
+    {
+        Outline outline;
+        for (int i = 0; i < count; ++i)
+            outline.push_back(make());
+        return outline;
+    }
+
+    static Outline scaled(Outline outline, double factor)
+    {
+        for (QPointF& point : outline)
+            point *= factor;
+        return outline;
+    }
+
+    static Outline moved(Outline outline, const QPointF& by)
+    {
+        for (QPointF& point : outline)
+            point += by;
+        return outline;
+    }
+
+    Outline withOdd(Outline outline)
+    {
+        const double odd[] = {qQNaN(), qInf(), -qInf(), 1e308, -1e308,
+                              1e101,   5e-324, 1e-101,  0.0,   -0.0};
+        for (int i = whole(1, 4); i > 0 && !outline.empty(); --i) {
+            QPointF& point = outline[std::size_t(whole(0, int(outline.size()) - 1))];
+            (whole(0, 1) ? point.rx() : point.ry()) = odd[whole(0, 9)];
+        }
+        return outline;
+    }
+
+    /// Vertices along one line, off it by a few units in the last place.
+    Outline nearlyStraight(int count)
+    {
+        const QPointF along(real(-1, 1), real(-1, 1));
+        const QPointF start(real(-1, 1), real(-1, 1));
+        return filled(count, [&] {
+            QPointF point = start + along * whole(0, 60) / 7.0;
+            point.rx() *= 1 + whole(-3, 3) * std::numeric_limits<double>::epsilon();
+            point.ry() *= 1 + whole(-3, 3) * std::numeric_limits<double>::epsilon();
+            return point;
+        });
+    }
+
+    /// Some vertex is put on, or a hair beside, an edge elsewhere.
+    Outline touching(Outline outline)
+    {
+        const int n = int(outline.size());
+        const int edge = whole(0, n - 1);
+        const QPointF on = outline[std::size_t(edge)]
+            + real(0, 1) * (outline[std::size_t((edge + 1) % n)] - outline[std::size_t(edge)])
+                * (1 + whole(-2, 2) * 1e-16);
+        outline[std::size_t(whole(0, n - 1))] = on;
+        return outline;
+    }
+
+    Outline mixedScales(int count)
+    {
+        return filled(count, [this] {
+            const double scale = std::pow(10.0, whole(-17, 0));
+            return QPointF(0.3, 0.7) + QPointF(real(-1, 1), real(-1, 1)) * scale;
+        });
+    }
+
+    std::mt19937_64 m_engine;
+};
+
+QByteArray described(const Outline& outline)
+{
+    QByteArray text;
+    for (const QPointF& point : outline)
+        text += QByteArray::number(point.x(), 'g', 17) + ','
+            + QByteArray::number(point.y(), 'g', 17) + ' ';
+    return text;
+}
+
+} // namespace
+
+class tst_PolygonChecks : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void convex_data();
+    void convex();
+    void convexByDefinition();
+    void selfIntersection_data();
+    void selfIntersection();
+    void selfIntersectionByDefinition_data();
+    void selfIntersectionByDefinition();
+    void largeOutlines_data();
+    void largeOutlines();
+    void argumentsStay();
+    void segmentation_data();
+    void segmentation();
+};
+
+void tst_PolygonChecks::convex_data()
+{
+    QTest::addColumn<Outline>("outline");
+    QTest::addColumn<bool>("expected");
+    const Outline withMiddle = {{0, 0}, {1, 0}, {1, 0.5}, {1, 1}, {0, 1}};
+    QTest::newRow("empty") << Outline() << true;
+    QTest::newRow("one point") << Outline({{1, 1}}) << true;
+    QTest::newRow("two points") << Outline({{1, 1}, {2, 2}}) << true;
+    QTest::newRow("triangle") << Outline({{0, 0}, {1, 0}, {0, 1}}) << true;
+    QTest::newRow("three collinear points") << Outline({{0, 0}, {1, 1}, {2, 2}}) << true;
+    QTest::newRow("three points, one not a number")
+        << Outline({{0, 0}, {qQNaN(), 1}, {2, 2}}) << true;
+    QTest::newRow("square, counter-clockwise") << square << true;
+    QTest::newRow("square, clockwise") << reversed(square) << true;
+    QTest::newRow("straight vertex among positive turns") << withMiddle << false;
+    QTest::newRow("straight vertex among negative turns") << reversed(withMiddle) << true;
+    QTest::newRow("repeated vertex among positive turns")
+        << Outline({{0, 0}, {1, 0}, {1, 0}, {1, 1}, {0, 1}}) << false;
+    QTest::newRow("repeated vertex among negative turns")
+        << reversed({{0, 0}, {1, 0}, {1, 0}, {1, 1}, {0, 1}}) << true;
+    QTest::newRow("four collinear points") << Outline({{0, 0}, {1, 1}, {2, 2}, {3, 3}}) << true;
+    QTest::newRow("concave") << Outline({{0, 0}, {4, 0}, {1, 1}, {0, 4}}) << false;
+    QTest::newRow("concave at the last vertex")
+        << Outline({{4, 0}, {4, 4}, {0, 4}, {3, 1}}) << false;
+    QTest::newRow("concave at the first vertex")
+        << Outline({{3, 1}, {4, 0}, {4, 4}, {0, 4}}) << false;
+    QTest::newRow("bow-tie") << Outline({{1, 1}, {3, 3}, {3, 1}, {1, 3}}) << false;
+    // All turns of a five-pointed star have one sense.
+    QTest::newRow("pentagram") << Outline({{0, 3}, {2, -3}, {-3, 1}, {3, 1}, {-2, -3}}) << true;
+    QTest::newRow("straight vertex off by the smallest step")
+        << Outline({{0, 0}, {1, 0}, {std::nextafter(1.0, 2.0), 0.5}, {1, 1}, {0, 1}}) << true;
+}
+
+void tst_PolygonChecks::convex()
+{
+    QFETCH(Outline, outline);
+    QTEST(isConvex(outline), "expected");
+    QCOMPARE(literalIsConvex(outline), isConvex(outline));
+}
+
+void tst_PolygonChecks::convexByDefinition()
+{
+    Outlines outlines(7);
+    int convex = 0;
+    for (int i = 0; i < 50000; ++i) {
+        Outline outline = outlines.make(i % Outlines::kinds, outlines.whole(1, 7));
+        if (i % 3 == 0) {
+            for (std::size_t j = 0; j < outline.size(); ++j)
+                outline[j] = QPointF(std::cos(double(j)), std::sin(double(j)));
+        }
+        const bool expected = literalIsConvex(outline);
+        convex += expected;
+        QVERIFY2(isConvex(outline) == expected, described(outline));
+    }
+    QVERIFY(convex > 1000 && convex < 49000);
+}
+
+void tst_PolygonChecks::selfIntersection_data()
+{
+    QTest::addColumn<Outline>("outline");
+    QTest::addColumn<bool>("expected");
+    QTest::newRow("empty") << Outline() << false;
+    QTest::newRow("one point") << Outline({{1, 1}}) << false;
+    QTest::newRow("two points") << Outline({{1, 1}, {2, 3}}) << false;
+    QTest::newRow("triangle") << Outline({{1, 1}, {2, 3}, {4, 1}}) << false;
+    QTest::newRow("bow-tie") << Outline({{1, 1}, {3, 3}, {3, 1}, {1, 3}}) << true;
+    QTest::newRow("square") << Outline({{1, 1}, {3, 1}, {3, 3}, {1, 3}}) << false;
+    QTest::newRow("square around the origin")
+        << Outline({{-1, -1}, {1, -1}, {1, 1}, {-1, 1}}) << false;
+    QTest::newRow("concave") << Outline({{1, 1}, {5, 1}, {2, 2}, {1, 5}}) << false;
+    QTest::newRow("bow-tie that crosses at the origin")
+        << Outline({{-1, -1}, {1, 1}, {1, -1}, {-1, 1}}) << false;
+    QTest::newRow("bow-tie that crosses beside the origin")
+        << Outline({{-1, -1}, {1, 1.5}, {1, -1}, {-1, 1}}) << true;
+    QTest::newRow("vertex on an edge elsewhere")
+        << Outline({{1, 1}, {9, 1}, {9, 5}, {5, 1}, {1, 5}}) << true;
+    QTest::newRow("vertex on an edge elsewhere, at the origin")
+        << Outline({{-4, 0}, {4, 0}, {4, 4}, {0, 0}, {-4, 4}}) << false;
+    QTest::newRow("two vertices in one place")
+        << Outline({{1, 1}, {3, 2}, {5, 1}, {5, 5}, {3, 2}, {1, 5}}) << true;
+    // The crossing is the third contact of no edge, because a corner of each lies at the origin.
+    QTest::newRow("crossing makes up for a corner at the origin")
+        << Outline({{0, 0}, {4, 4}, {4, 0}, {0, 4}}) << true;
+    QTest::newRow("there and back on one line")
+        << Outline({{1, 1}, {5, 1}, {3, 1}, {7, 1}, {4, 1}}) << false;
+    QTest::newRow("overlapping collinear edges")
+        << Outline({{1, 1}, {9, 1}, {9, 3}, {7, 1}, {3, 1}, {1, 3}}) << true;
+    QTest::newRow("repeated vertex") << Outline({{1, 1}, {3, 1}, {3, 1}, {3, 3}, {1, 3}}) << false;
+    QTest::newRow("closed by a repeated first vertex")
+        << Outline({{1, 1}, {3, 1}, {3, 3}, {1, 3}, {1, 1}}) << false;
+    QTest::newRow("not a number") << Outline({{1, 1}, {3, 3}, {qQNaN(), 1}, {3, 1}, {1, 3}})
+                                  << false;
+    QTest::newRow("pentagram") << Outline({{0, 3}, {2, -3}, {-3, 1}, {3, 1}, {-2, -3}}) << true;
+}
+
+void tst_PolygonChecks::selfIntersection()
+{
+    QFETCH(Outline, outline);
+    QTEST(isSelfIntersection(outline), "expected");
+    QCOMPARE(literalIsSelfIntersection(outline), isSelfIntersection(outline));
+    QCOMPARE(isSelfIntersection(reversed(outline)), isSelfIntersection(outline));
+}
+
+void tst_PolygonChecks::selfIntersectionByDefinition_data()
+{
+    QTest::addColumn<int>("outlines");
+    QTest::addColumn<int>("vertices");
+    QTest::newRow("small outlines") << 180000 << 12;
+    QTest::newRow("middling outlines") << 24000 << 60;
+    QTest::newRow("larger outlines") << 1500 << 300;
+}
+
+void tst_PolygonChecks::selfIntersectionByDefinition()
+{
+    QFETCH(int, outlines);
+    QFETCH(int, vertices);
+    Outlines random{unsigned(vertices)};
+    int crossing = 0;
+    for (int i = 0; i < outlines; ++i) {
+        const int kind = i % Outlines::kinds;
+        const Outline outline = random.make(kind, random.whole(4, vertices));
+        const bool expected = literalIsSelfIntersection(outline);
+        crossing += expected;
+        QVERIFY2(isSelfIntersection(outline) == expected,
+                 "kind " + QByteArray::number(kind) + ": " + described(outline));
+    }
+    QVERIFY(crossing > outlines / 10 && crossing < outlines * 9 / 10);
+}
+
+void tst_PolygonChecks::largeOutlines_data()
+{
+    QTest::addColumn<Outline>("outline");
+    Outlines random(3);
+    const Outline comb = random.comb(3000);
+    QTest::newRow("star") << random.star(3000, 0);
+    QTest::newRow("comb") << comb;
+    QTest::newRow("turned comb") << random.turned(comb);
+    Outline spiral;
+    Outline back;
+    const int signX[] = {1, -1, -1, 1};
+    const int signY[] = {1, 1, -1, -1};
+    for (int i = 0; i < 1500; ++i) {
+        const double radius = 1 + i / 4.0;
+        spiral.emplace_back(signX[i % 4] * radius, signY[i % 4] * radius);
+        back.emplace_back(signX[i % 4] * (radius + 0.4), signY[i % 4] * (radius + 0.4));
+    }
+    spiral.insert(spiral.end(), back.rbegin(), back.rend());
+    QTest::newRow("square spiral") << spiral;
+    QTest::newRow("turned square spiral") << random.turned(spiral);
+}
+
+void tst_PolygonChecks::largeOutlines()
+{
+    QFETCH(Outline, outline);
+    QCOMPARE(isSelfIntersection(outline), literalIsSelfIntersection(outline));
+    // Two vertices far apart change places: edges cross somewhere.
+    std::swap(outline[outline.size() / 3], outline[outline.size() / 2]);
+    QVERIFY(isSelfIntersection(outline));
+}
+
+void tst_PolygonChecks::argumentsStay()
+{
+    const Outline outline = square;
+    isConvex(outline);
+    isSelfIntersection(outline);
+    QCOMPARE(outline, square);
+}
+
+void tst_PolygonChecks::segmentation_data()
+{
+    QTest::addColumn<Outline>("outline");
+    QTest::addColumn<double>("value");
+    QTest::addColumn<bool>("expected");
+    QTest::newRow("in two") << square << 0.5 << true;
+    QTest::newRow("not larger than the limit") << square << 1.0 << false;
+    QTest::newRow("no limit") << square << 0.0 << false;
+    QTest::newRow("bow-tie") << Outline({{1, 1}, {3, 3}, {3, 1}, {1, 3}}) << 0.1 << false;
+}
+
+void tst_PolygonChecks::segmentation()
+{
+    QFETCH(Outline, outline);
+    QFETCH(double, value);
+    Ring polygon;
+    for (const QPointF& point : outline)
+        polygon.emplace_back(point.x(), point.y());
+
+    QTEST(isAreaCanSegment(polygon, value), "expected");
+    std::vector<Ring> parts = {polygon};
+    QTEST(SegmentBlockArea(polygon, value, parts), "expected");
+
+    std::vector<Ring> platformParts;
+    QCOMPARE(IsBlockPloyCanSegment(polygon, value), isAreaCanSegment(polygon, value));
+    CRkCreateAirline().SegmentSurveyArea(polygon, value, platformParts);
+    QVERIFY(parts == platformParts);
+}
+
+QTEST_GUILESS_MAIN(tst_PolygonChecks)
+#include "tst_PolygonChecks.moc"
