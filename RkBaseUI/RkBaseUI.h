@@ -49,3 +49,4 @@
 #include <RkBaseUI/SharedHelpers.h>
 #include <RkBaseUI/SquareGridVolume.h>
 #include <RkBaseUI/ToolTypes.h>
+#include <RkBaseUI/WebService.h>

@@ -3,6 +3,8 @@
 
 #include "project/ProjectStoreSql.h"
 
+#include "common/TableSql.h"
+
 #include <RkAlgorthm/RkAlgorthm.h>
 
 namespace ProjectStoreSql {
@@ -37,15 +39,7 @@ QString insertProject(const NewProject& project)
 
 QString selectComputedTables(const QStringList& tables)
 {
-    QStringList names;
-    QString columns;
-    for (const QString& table : tables) {
-        names.append(quoted(table));
-        columns +=
-            " union all select 1 from pragma_table_xinfo(" + quoted(table) + ") where hidden>1";
-    }
-    return "select 1 from sqlite_master where name collate nocase in (" + names.join(',')
-        + ") and rootpage=0" + columns;
+    return TableSql::selectComputedTables(tables);
 }
 
 QString selectProject(const QString& userId)

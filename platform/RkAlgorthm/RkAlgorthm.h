@@ -5,6 +5,7 @@
 
 // Every public header of the library, less the settings of the reference implementation.
 
+#include <RkAlgorthm/ComboJson.h>
 #include <RkAlgorthm/Constants.h>
 #include <RkAlgorthm/CRkAirLineParam.h>
 #include <RkAlgorthm/CRkCreateAirline.h>
