@@ -38,12 +38,12 @@ CRkDateSelectWidget::~CRkDateSelectWidget() = default;
 void CRkDateSelectWidget::SetActiveCalendarEdit(QLineEdit* edit)
 {
     m_activeEdit = edit;
-    QLineEdit& from = *m_ui->lineEditDateFrom;
-    QLineEdit& to = *m_ui->lineEditDateTo;
-    if (edit && edit != &from && edit != &to)
+    if (edit && edit != m_ui->lineEditDateFrom && edit != m_ui->lineEditDateTo)
         return;
-    from.setStyleSheet(edit == &from ? activeStyle : passiveStyle);
-    to.setStyleSheet(edit == &to ? activeStyle : passiveStyle);
+    m_ui->lineEditDateFrom->setStyleSheet(passiveStyle);
+    m_ui->lineEditDateTo->setStyleSheet(passiveStyle);
+    if (edit)
+        edit->setStyleSheet(activeStyle);
 }
 
 bool CRkDateSelectWidget::eventFilter(QObject* object, QEvent* event)

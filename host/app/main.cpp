@@ -11,6 +11,8 @@
 #include <QDir>
 #include <QFont>
 #include <QLocale>
+#include <QScreen>
+#include <QStyle>
 #include <QTemporaryDir>
 #include <QTextStream>
 
@@ -102,6 +104,15 @@ int runGallery(const Options& options)
                                                                                              : 1;
 }
 
+/// In the middle of the screen, and told so to the window manager: the first dialog stands over the
+/// window before a place of the manager's choice would be known.
+void placeOnScreen(HostWindow& window)
+{
+    const QRect available = QGuiApplication::primaryScreen()->availableGeometry();
+    window.setGeometry(QStyle::alignedRect(Qt::LeftToRight, Qt::AlignCenter,
+                                           window.size().boundedTo(available.size()), available));
+}
+
 int runWindow(const Options& options)
 {
     if (!options.settings.isEmpty()) {
@@ -118,6 +129,7 @@ int runWindow(const Options& options)
     else if (HostSettings::currentUser().isEmpty())
         HostSettings::setCurrentUser(sampleUserId());
     HostWindow window;
+    placeOnScreen(window);
     window.show();
     window.openProjects();
     return QApplication::exec();
@@ -153,7 +165,8 @@ int main(int argc, char* argv[])
     QCommandLineParser parser;
     addOptions(parser);
     const QString wrong = complaint(parser, argumentList(argc, argv));
-    if (!wrong.isEmpty() || parser.isSet(QStringLiteral("help"))) {
+    if (!wrong.isEmpty() || parser.isSet(QStringLiteral("help"))
+        || parser.isSet(QStringLiteral("help-all"))) {
         const QCoreApplication application(argc, argv); // Help needs no display.
         if (wrong.isEmpty())
             QTextStream(stdout) << parser.helpText();
