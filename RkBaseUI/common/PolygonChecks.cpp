@@ -32,6 +32,7 @@ bool isConvex(std::vector<QPointF> polygon)
         && isPositiveTurn(polygon[n - 1], polygon[0], polygon[1]) == sense;
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): hosts are built against the value.
 bool isSelfIntersection(std::vector<QPointF> polygon)
 {
     return OutlineMeetings(polygon).someEdgeMeetsThree();

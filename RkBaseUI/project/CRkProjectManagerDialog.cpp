@@ -53,6 +53,7 @@ void CRkProjectManagerDialog::switchPage(bool projectPage)
         m_ui->stackedWidget->setCurrentWidget(m_ui->pageBlockManager);
 }
 
+// NOLINTNEXTLINE(performance-unnecessary-value-param): hosts are built against the value.
 void CRkProjectManagerDialog::SetIcon(QString path)
 {
     m_ui->labelIcon->setStyleSheet(
