@@ -8,6 +8,7 @@
 #include "support/Brackets.h"
 #include "support/TestSupport.h"
 #include "widgets/ExecAnd.h"
+#include "widgets/VerifyDrag.h"
 
 #include <RkBaseUI/CRkBlockManagerWidget.h>
 #include <RkBaseUI/CRkGraphicsProjectRectItem.h>
@@ -543,19 +544,7 @@ void tst_CRkProjectManagerDialog::drag()
 {
     QFETCH(QPoint, at);
     Dialog dialog(nullptr);
-    dialog.move(100, 120);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    QWindow* window = dialog.windowHandle();
-    QTest::mousePress(window, Qt::LeftButton, {}, at);
-    QCOMPARE(dialog.pos(), QPoint(100, 120));
-    QTest::mouseMove(window, at + QPoint(30, 20));
-    QCOMPARE(dialog.pos(), QPoint(130, 140));
-    QTest::mouseMove(window, at + QPoint(0, 7));
-    QCOMPARE(dialog.pos(), QPoint(130, 147));
-    QTest::mouseRelease(window, Qt::LeftButton, {}, at);
-    QTest::mouseMove(window, at + QPoint(40, 40));
-    QCOMPARE(dialog.pos(), QPoint(130, 147));
+    verifyDrag(dialog, at);
 }
 
 void tst_CRkProjectManagerDialog::pressElsewhereDoesNotDrag_data()

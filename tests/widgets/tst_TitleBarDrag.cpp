@@ -5,6 +5,7 @@
 #include <RkBaseUI/CRkProgressWgt.h>
 
 #include "widgets/SendMouse.h"
+#include "widgets/VerifyDrag.h"
 
 #include <QTest>
 
@@ -108,22 +109,8 @@ void tst_TitleBarDrag::dragByTitleBar()
 {
     QFETCH(Make, make);
     QFETCH(QPoint, at);
-    const std::unique_ptr<QDialog> owner = make(nullptr);
-    QDialog& dialog = *owner;
-    dialog.move(100, 120);
-    dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
-    QWindow* window = dialog.windowHandle();
-
-    QTest::mousePress(window, Qt::LeftButton, {}, at);
-    QCOMPARE(dialog.pos(), QPoint(100, 120));
-    QTest::mouseMove(window, at + QPoint(30, 20));
-    QCOMPARE(dialog.pos(), QPoint(130, 140));
-    QTest::mouseMove(window, at + QPoint(0, 7));
-    QCOMPARE(dialog.pos(), QPoint(130, 147));
-    QTest::mouseRelease(window, Qt::LeftButton, {}, at);
-    QTest::mouseMove(window, at + QPoint(40, 40));
-    QCOMPARE(dialog.pos(), QPoint(130, 147));
+    const std::unique_ptr<QDialog> dialog = make(nullptr);
+    verifyDrag(*dialog, at);
 }
 
 void tst_TitleBarDrag::pressOffTitleBarDoesNotDrag_data()
