@@ -27,25 +27,27 @@
 // the end of e and 13 / K |b| beyond that of f. In each case the edges, lengthened by 16 / K of
 // themselves at both ends and widened by K u M, overlap.
 //
-// This is used twice. With K = 2^14 the edges are lengthened by 2^-10 only, so that few of them
-// overlap that do not meet. What remains are pairs with k < 2^14 u: their directions differ by not
-// much more than that, and the distances of their two lines from the centre by less than 8 * 2^14 u
-// M, because |b x c| is at most |D| but for rounding. Of these, with K = 128, only those can meet
-// that overlap when lengthened by an eighth, or whose directions differ by less than 134 u.
+// This is used twice. With K = 2^20 the edges are lengthened by 2^-16 only, so that few of them
+// overlap that do not meet, even where the edges are long and close together. What remains are
+// pairs with k < K u: their directions differ by not much more than that, and the distances of
+// their two lines from the centre by less than 8 K u M, because |b x c| is at most |D| but for
+// rounding. Of these, with K = 128, only those can meet that overlap when lengthened by an eighth,
+// or whose directions differ by less than 134 u.
 namespace {
 
 constexpr double largestCoordinate = 1e100;
 constexpr double shortestEdge = 1e-100;
 constexpr double unit = std::numeric_limits<double>::epsilon() / 2;
 
-/// Edges at an angle that lets rounding not matter: K of the explanation above is 2^14.
-constexpr double smallLengthening = 1.0 / 1024;
+/// K of the explanation above, for edges at an angle that lets rounding not matter.
+constexpr double angle = 1 << 20;
+constexpr double smallLengthening = 16 / angle;
 /// All tolerances times M have room for the rounding of what is compared.
-constexpr double padding = 32768 * unit;
+constexpr double padding = 2 * angle * unit;
 
 /// Edges that are nearly parallel.
-constexpr double directionTolerance = 32768 * unit;
-constexpr double offsetTolerance = 8 * 32768 * unit;
+constexpr double directionTolerance = 2 * angle * unit;
+constexpr double offsetTolerance = 8 * directionTolerance;
 /// K is 128.
 constexpr double largeLengthening = 1.0 / 8;
 constexpr double sameDirectionTolerance = 256 * unit;
