@@ -203,8 +203,10 @@ void OutlineMeetings::turnInto(Box& box, const Directions& directions)
     const double x = half >= 0 ? half + root : directions.xy;
     const double y = half >= 0 ? directions.xy : root - half;
     const double length = std::hypot(x, y);
-    box.ux = length > 0 ? x / length : 1;
-    box.uy = length > 0 ? y / length : 0;
+    // Where no direction prevails, what is left may be too small to be divided.
+    const bool prevails = length > unit * (directions.xx + directions.yy);
+    box.ux = prevails ? x / length : 1;
+    box.uy = prevails ? y / length : 0;
 }
 
 namespace {

@@ -19,8 +19,7 @@
 ///
 /// Two edges are asked when one of two things holds; for all others it is provable that rounding
 /// cannot make them meet (see OutlineMeetings.cpp):
-/// - their surroundings overlap, each being the edge lengthened by a thousandth at both ends. A
-/// tree of
+/// - their surroundings overlap, each being the edge lengthened a little at both ends. A tree of
 ///   rectangles, each turned to lie along its edges, finds those pairs;
 /// - they lie on one line but for rounding, at any distance. Sorting by direction and offset finds
 ///   those.

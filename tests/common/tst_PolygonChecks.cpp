@@ -327,6 +327,8 @@ void tst_PolygonChecks::selfIntersection_data()
     QTest::newRow("triangle") << Outline({{1, 1}, {2, 3}, {4, 1}}) << false;
     QTest::newRow("bow-tie") << Outline({{1, 1}, {3, 3}, {3, 1}, {1, 3}}) << true;
     QTest::newRow("square") << Outline({{1, 1}, {3, 1}, {3, 3}, {1, 3}}) << false;
+    QTest::newRow("two edges square but for the smallest number")
+        << Outline({{0, 0}, {5e-324, -1}, {1, -1}, {2, 2}, {3, -1}}) << true;
     QTest::newRow("square around the origin")
         << Outline({{-1, -1}, {1, -1}, {1, 1}, {-1, 1}}) << false;
     QTest::newRow("concave") << Outline({{1, 1}, {5, 1}, {2, 2}, {1, 5}}) << false;
