@@ -12,9 +12,11 @@
 #include <QApplication>
 #include <QOpenGLWidget>
 
+#include <algorithm>
 #include <array>
 #include <cmath>
 #include <cstdlib>
+#include <vector>
 
 #include <GL/freeglut.h>
 #include <GL/glu.h>

@@ -9,6 +9,7 @@
 #include <QMouseEvent>
 #include <QOffscreenSurface>
 #include <QOpenGLContext>
+#include <QOpenGLFramebufferObject>
 #include <QVBoxLayout>
 
 #include <GL/glu.h>
@@ -29,22 +30,34 @@ QSurfaceFormat surfaceFormat()
     return format;
 }
 
+/// A context that has the fixed pipeline, and the buffers that the toolkit composes a window from.
 bool canMakeContext()
 {
     QOpenGLContext context;
     context.setFormat(surfaceFormat());
-    if (!context.create())
+    if (!context.create() || context.isOpenGLES())
         return false;
     QOffscreenSurface surface;
     surface.setFormat(context.format());
     surface.create();
-    return context.makeCurrent(&surface);
+    return context.makeCurrent(&surface) && QOpenGLFramebufferObject::hasOpenGLFramebufferObjects();
+}
+
+/// Leaves the caller's context current.
+bool findOutAboutOpenGL()
+{
+    QOpenGLContext* callers = QOpenGLContext::currentContext();
+    QSurface* surface = callers ? callers->surface() : nullptr;
+    const bool can = canMakeContext();
+    if (callers)
+        callers->makeCurrent(surface);
+    return can;
 }
 
 bool hasOpenGL()
 {
-    static const bool can = canMakeContext();
-    return can;
+    static const bool has = findOutAboutOpenGL();
+    return has;
 }
 
 /// Blue is no fraction as the others are: it saturates, which gives the sphere its colour.

@@ -22,8 +22,11 @@ class FlatLightView;
 ///     view->slotUpdateAngle(225, 45);
 ///
 /// Drawn with OpenGL 1.x, whatever the application's default surface format. On a machine where no
-/// OpenGL context can be made, a plain drawing shows the same and the mouse works as well; then
+/// context for that can be made, a plain drawing shows the same and the mouse works as well; then
 /// give the view its parent when it is made, or the parent's window stays empty.
+///
+/// The solids are freeglut's. The first frame initialises freeglut unless the application has done
+/// so; an application that uses it too must be first, because a second glutInit ends the process.
 class RKBASEUI_EXPORT CRkLightDir : public QOpenGLWidget, private QOpenGLFunctions
 {
     Q_OBJECT

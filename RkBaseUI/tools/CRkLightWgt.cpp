@@ -4,7 +4,6 @@
 #include "tools/CRkLightWgt.h"
 
 #include "tools/LightDirection.h"
-
 #include "ui_CRkLightWgt.h"
 
 #include <QColorDialog>
@@ -193,6 +192,8 @@ void CRkLightWgt::_chooseColor(ColorTarget target)
         m_colorDialog = new QColorDialog(this);
         connect(m_colorDialog, &QColorDialog::currentColorChanged, this,
                 &CRkLightWgt::slotColorChanged);
+        // Left behind it would go on changing a light that is no longer shown.
+        connect(this, &QDialog::finished, m_colorDialog, &QWidget::hide);
     }
     m_colorDialog->setCurrentColor(_color(target));
     m_colorDialog->setModal(false);

@@ -67,16 +67,14 @@ void FlatLightView::paintEvent(QPaintEvent* /*event*/)
     const double outline = camera.outline(m_radius);
     painter.drawEllipse(QPointF(), outline, outline);
 
-    const QVector3D point = rk::lightMarker(m_angles, m_radius);
-    const bool isFinite =
-        std::isfinite(point.x()) && std::isfinite(point.y()) && std::isfinite(point.z());
     painter.setPen(Qt::NoPen);
     painter.setBrush(QColor(200, 191, 255));
     const double core = camera.outline(coreRadius);
     painter.drawEllipse(QPointF(), core, core);
-    if (!isFinite)
-        return;
 
+    const QVector3D point = rk::lightMarker(m_angles, m_radius);
+    if (!std::isfinite(point.x()) || !std::isfinite(point.y()) || !std::isfinite(point.z()))
+        return;
     const double scale = camera.scale(-point.y()); // The camera looks along the y axis.
     const QPointF marker(point.x() * scale, -point.z() * scale);
     painter.setPen(QPen(Qt::white, 2));

@@ -16,18 +16,18 @@ namespace rk {
 
 struct LightAngles
 {
-    float azimuth = 0; ///< Degrees, clockwise from the y axis.
-    float elevation = 0; ///< Degrees, from the plane of x and y upwards.
+    float azimuth = 0; ///< Degrees about the z axis; each function says in which sense.
+    float elevation = 0; ///< Degrees; each function says from where.
 };
 
 /// Distance of the point from the origin. Infinite beyond the range of a float.
 RKBASEUI_EXPORT float lightDistance(double x, double y, double z);
 
-/// The direction from the origin to the point, in single precision: elevation asin(z / r) and
-/// azimuth asin(x / l) with r the distance and l its part in the plane of x and y, the azimuth
-/// brought to the quadrant of the point. One radian counts as 57.3 degrees, so that straight up is
-/// 90.0066; the azimuth lies within 0 to 360.01. On the z axis it is 0. The elevation of the
-/// origin is not a number.
+/// The direction from the origin to the point, in single precision: elevation asin(z / r) upwards
+/// from the plane of x and y, and azimuth asin(x / l) clockwise from the y axis, with r the
+/// distance and l its part in that plane, the azimuth brought to the quadrant of the point. One
+/// radian counts as 57.3 degrees, so that straight up is 90.0066 and east as well; the azimuth lies
+/// within 0 to 360. On the z axis it is 0. The elevation of the origin is not a number.
 RKBASEUI_EXPORT LightAngles lightAngles(double x, double y, double z);
 
 /// Where the light stands: the point (0, 0, distance), turned by the elevation about the x axis and

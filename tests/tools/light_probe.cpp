@@ -1,14 +1,16 @@
 // SPDX-FileCopyrightText: 2026 The RkBaseUI developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
-// light_probe [--display-lost] [--no-memory] [--core-profile] [--picture FILE] [--screen FILE]
+// light_probe [--display-lost] [--no-memory] [--core-profile] [--embedded] [--no-framebuffers]
+//             [--picture FILE] [--screen FILE]
 //
 // Shows the light dialog with the light from the right front, turns it once, and prints "alive".
 // The pictures are those that the dialog makes of itself and that the screen shows.
 //
 // --display-lost: no further connection to the display can be made, as where there is OpenGL but no
 // X server. --no-memory: there is none for a quadric. --core-profile: the application's default
-// format is one without the fixed pipeline.
+// format is one without the fixed pipeline. --embedded: all that can be had is OpenGL ES.
+// --no-framebuffers: all that can be had is too old to compose a window with.
 
 #include <RkBaseUI/CRkLightDir.h>
 #include <RkBaseUI/CRkLightWgt.h>
@@ -18,6 +20,8 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QDoubleSpinBox>
+#include <QOpenGLContext>
+#include <QOpenGLFramebufferObject>
 #include <QScreen>
 #include <QSurfaceFormat>
 #include <QTest>
@@ -30,15 +34,34 @@
 namespace {
 
 bool isMemoryOut = false;
+bool isEmbedded = false;
+bool lacksFramebuffers = false;
 
+template <typename Function>
+Function* original(const char* name)
+{
+    return reinterpret_cast<Function*>(dlsym(RTLD_NEXT, name));
 }
 
-// The library calls this one.
+} // namespace
+
+// The library calls these.
+
 GLUquadric* gluNewQuadric()
 {
-    if (isMemoryOut)
-        return nullptr;
-    return reinterpret_cast<GLUquadric* (*)()>(dlsym(RTLD_NEXT, "gluNewQuadric"))();
+    return isMemoryOut ? nullptr : original<GLUquadric*()>("gluNewQuadric")();
+}
+
+bool QOpenGLContext::isOpenGLES() const
+{
+    return isEmbedded
+        || original<bool(const QOpenGLContext*)>("_ZNK14QOpenGLContext10isOpenGLESEv")(this);
+}
+
+bool QOpenGLFramebufferObject::hasOpenGLFramebufferObjects()
+{
+    return !lacksFramebuffers
+        && original<bool()>("_ZN24QOpenGLFramebufferObject27hasOpenGLFramebufferObjectsEv")();
 }
 
 int main(int argc, char** argv)
@@ -57,12 +80,16 @@ int main(int argc, char** argv)
     parser.addOptions({{QStringLiteral("display-lost"), {}},
                        {QStringLiteral("no-memory"), {}},
                        {QStringLiteral("core-profile"), {}},
+                       {QStringLiteral("embedded"), {}},
+                       {QStringLiteral("no-framebuffers"), {}},
                        {QStringLiteral("picture"), {}, QStringLiteral("file")},
                        {QStringLiteral("screen"), {}, QStringLiteral("file")}});
     parser.process(arguments);
     if (parser.isSet(QStringLiteral("display-lost")))
         qunsetenv("DISPLAY");
     isMemoryOut = parser.isSet(QStringLiteral("no-memory"));
+    isEmbedded = parser.isSet(QStringLiteral("embedded"));
+    lacksFramebuffers = parser.isSet(QStringLiteral("no-framebuffers"));
 
     CRkLightWgt dialog(nullptr);
     dialog.InitWgt({-60, -60, 40, 0.2, 0.8, 0.5, QColor(Qt::white), QColor(Qt::white), 64, 0.5},

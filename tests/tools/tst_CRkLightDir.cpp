@@ -9,6 +9,8 @@
 
 #include <QApplication>
 #include <QMetaMethod>
+#include <QOffscreenSurface>
+#include <QOpenGLContext>
 #include <QPainter>
 #include <QSignalSpy>
 #include <QTest>
@@ -24,34 +26,43 @@
 
 namespace {
 
-/// A solid with the state of OpenGL that it was drawn in.
-struct Solid
+/// A shape with the state of OpenGL that it was drawn in.
+struct Shape
 {
     QString name;
-    double size;
+    double size; ///< Radius of a sphere, side of a cube, width of a line.
     int slices;
     int stacks;
     std::array<float, 4> color;
     std::array<float, 3> place; ///< Relative to the camera.
+    std::array<float, 4> light; ///< Where it comes from.
     bool isBlended;
     bool isDepthTested;
 };
 
-QVector<Solid> solids;
+QVector<Shape> shapes;
 int initialisations = 0;
 int argumentCount = 0;
 int quadrics = 0;
 
-Solid solidNow(const QString& name, double size, int slices, int stacks)
+template <std::size_t size>
+std::array<float, size> floats(GLenum name)
 {
-    Solid solid = {name, size, slices, stacks, {}, {}, false, false};
-    glGetFloatv(GL_CURRENT_COLOR, solid.color.data());
-    std::array<float, 16> modelView = {};
-    glGetFloatv(GL_MODELVIEW_MATRIX, modelView.data());
-    solid.place = {modelView[12], modelView[13], modelView[14]};
-    solid.isBlended = glIsEnabled(GL_BLEND);
-    solid.isDepthTested = glIsEnabled(GL_DEPTH_TEST);
-    return solid;
+    std::array<float, size> values = {};
+    glGetFloatv(name, values.data());
+    return values;
+}
+
+Shape shapeNow(const QString& name, double size, int slices, int stacks)
+{
+    Shape shape = {name, size, slices, stacks, {}, {}, {}, false, false};
+    shape.color = floats<4>(GL_CURRENT_COLOR);
+    const auto modelView = floats<16>(GL_MODELVIEW_MATRIX);
+    shape.place = {modelView[12], modelView[13], modelView[14]};
+    glGetLightfv(GL_LIGHT0, GL_POSITION, shape.light.data());
+    shape.isBlended = glIsEnabled(GL_BLEND);
+    shape.isDepthTested = glIsEnabled(GL_DEPTH_TEST);
+    return shape;
 }
 
 template <typename Function>
@@ -73,14 +84,21 @@ void glutInit(int* count, char** arguments)
 
 void glutSolidSphere(double radius, GLint slices, GLint stacks)
 {
-    solids.append(solidNow(QStringLiteral("sphere"), radius, slices, stacks));
+    shapes.append(shapeNow(QStringLiteral("sphere"), radius, slices, stacks));
     original<void(double, GLint, GLint)>("glutSolidSphere")(radius, slices, stacks);
 }
 
 void glutSolidCube(double side)
 {
-    solids.append(solidNow(QStringLiteral("cube"), side, 0, 0));
+    shapes.append(shapeNow(QStringLiteral("cube"), side, 0, 0));
     original<void(double)>("glutSolidCube")(side);
+}
+
+void glBegin(GLenum mode)
+{
+    if (mode == GL_LINES)
+        shapes.append(shapeNow(QStringLiteral("line"), floats<1>(GL_LINE_WIDTH)[0], 0, 0));
+    original<void(GLenum)>("glBegin")(mode);
 }
 
 GLUquadric* gluNewQuadric()
@@ -120,14 +138,6 @@ std::unique_ptr<View> shownView(QSize size = {200, 200})
     return view;
 }
 
-template <std::size_t size>
-std::array<float, size> floats(GLenum name)
-{
-    std::array<float, size> values = {};
-    glGetFloatv(name, values.data());
-    return values;
-}
-
 /// Where the marker is in the view's scene, and in the picture.
 QVector3D inScene(float azimuth, float elevation)
 {
@@ -163,7 +173,7 @@ private slots:
     void viewport_data();
     void viewport();
     void projection();
-    void solidsOfAFrame();
+    void shapesOfAFrame();
     void stateAfterAFrame();
     void solidsShareOneInitialisation();
     void pictureOfDirections_data();
@@ -191,12 +201,22 @@ private slots:
 void tst_CRkLightDir::initTestCase()
 {
     qRegisterMetaType<Qt::MouseButton>();
+
+    // The first view of a process finds out about OpenGL while its maker uses a context.
+    QOffscreenSurface surface;
+    surface.create();
+    QOpenGLContext context;
+    QVERIFY(context.create() && context.makeCurrent(&surface));
+    const View first;
+    QCOMPARE(QOpenGLContext::currentContext(), &context);
+    context.doneCurrent();
+
     QVERIFY2(shownView(), "The display has OpenGL.");
 }
 
 void tst_CRkLightDir::init()
 {
-    solids.clear();
+    shapes.clear();
 }
 
 void tst_CRkLightDir::metaObject()
@@ -263,43 +283,58 @@ void tst_CRkLightDir::projection()
     QCOMPARE(mode, GL_MODELVIEW);
 }
 
-void tst_CRkLightDir::solidsOfAFrame()
+void tst_CRkLightDir::shapesOfAFrame()
 {
     const auto view = shownView();
-    view->slotUpdateAngle(225, 30);
-    solids.clear();
+    view->slotUpdateAngle(100, -20);
     view->grabFramebuffer();
-    QCOMPARE(solids.size(), 3);
+    view->slotUpdateAngle(225, 30);
+    shapes.clear();
+    view->grabFramebuffer();
+    QCOMPARE(shapes.size(), 4);
 
     const std::array<float, 3> centre = {0, 0, -15};
     const std::array<float, 4> opaque = {200.0F / 255, 191.0F / 255, 231.0F, 1.0F};
-    QCOMPARE(solids[0].name, QString("sphere"));
-    QCOMPARE(solids[0].size, 1.0);
-    QCOMPARE(solids[0].color, opaque);
-    QCOMPARE(solids[0].place, centre);
+    QCOMPARE(shapes[0].name, QString("sphere"));
+    QCOMPARE(shapes[0].size, 1.0);
+    QCOMPARE(shapes[0].color, opaque);
+    QCOMPARE(shapes[0].place, centre);
 
     const std::array<float, 4> faint = {200.0F / 255, 191.0F / 255, 231.0F, 0.1F};
-    QCOMPARE(solids[1].name, QString("sphere"));
-    QCOMPARE(solids[1].size, 5.0);
-    QCOMPARE(solids[1].color, faint);
-    QCOMPARE(solids[1].place, centre);
-    for (const Solid& sphere : {solids[0], solids[1]}) {
+    QCOMPARE(shapes[1].name, QString("sphere"));
+    QCOMPARE(shapes[1].size, 5.0);
+    QCOMPARE(shapes[1].color, faint);
+    QCOMPARE(shapes[1].place, centre);
+    const QVector3D before = inScene(100, -20);
+    const std::array<float, 4> lightBefore = {before.x(), before.y(), before.z(), 0};
+    for (const Shape& sphere : {shapes[0], shapes[1]}) {
         QCOMPARE(sphere.slices, 30);
         QCOMPARE(sphere.stacks, 30);
+        QCOMPARE(sphere.light, lightBefore);
+        QVERIFY(sphere.isDepthTested);
     }
+
+    const std::array<float, 4> white = {1, 1, 1, 1};
+    QCOMPARE(shapes[2].name, QString("line"));
+    QCOMPARE(shapes[2].size, 2.0);
+    QCOMPARE(shapes[2].color, white);
+    QCOMPARE(shapes[2].place, centre);
+    QVERIFY(!shapes[2].isDepthTested);
 
     const QVector3D marker = inScene(225, 30);
     const std::array<float, 3> place = {marker.x(), marker.y(), marker.z() - 15};
     const std::array<float, 4> red = {1, 0, 0, 1};
-    QCOMPARE(solids[2].name, QString("cube"));
-    QCOMPARE(solids[2].size, 0.5);
-    QCOMPARE(solids[2].color, red);
-    QCOMPARE(solids[2].place, place);
+    QCOMPARE(shapes[3].name, QString("cube"));
+    QCOMPARE(shapes[3].size, 0.5);
+    QCOMPARE(shapes[3].color, red);
+    QCOMPARE(shapes[3].place, place);
+    QVERIFY(shapes[3].isDepthTested);
 
-    for (const Solid& solid : qAsConst(solids)) {
-        QVERIFY(solid.isBlended);
-        QVERIFY(solid.isDepthTested);
-    }
+    const std::array<float, 4> light = {marker.x(), marker.y(), marker.z(), 0};
+    QCOMPARE(shapes[2].light, light);
+    QCOMPARE(shapes[3].light, light);
+    for (const Shape& shape : qAsConst(shapes))
+        QVERIFY(shape.isBlended);
 }
 
 void tst_CRkLightDir::stateAfterAFrame()
@@ -408,7 +443,7 @@ void tst_CRkLightDir::slotUpdateAngle()
     view->slotUpdateAngle(200, -20);
     QTRY_VERIFY(view->paints > before);
     QVERIFY(sent.isEmpty());
-    QCOMPARE(solids.last().place[0], inScene(200, -20).x());
+    QCOMPARE(shapes.last().place[0], inScene(200, -20).x());
 }
 
 void tst_CRkLightDir::anglesThatAreNoNumbers_data()
@@ -480,8 +515,8 @@ void tst_CRkLightDir::drag()
     QTEST(sent.first().at(1).toFloat(), "expectedElevation");
     QTRY_VERIFY(view->paints > before);
     const QVector3D marker = inScene(sent.first().at(0).toFloat(), sent.first().at(1).toFloat());
-    QCOMPARE(solids.last().place[0], marker.x());
-    QCOMPARE(solids.last().place[1], marker.y());
+    QCOMPARE(shapes.last().place[0], marker.x());
+    QCOMPARE(shapes.last().place[1], marker.y());
 }
 
 void tst_CRkLightDir::dragGoesOnFromTheLastEvent()

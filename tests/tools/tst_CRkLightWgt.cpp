@@ -215,6 +215,7 @@ private slots:
     void everyColorIsSentAtOnce();
     void invalidColorOpensBlack();
     void colorDialogCanBeRead();
+    void colorDialogIsHiddenWithTheDialog();
     void colorDialogGoesWithTheDialog();
 };
 
@@ -1079,6 +1080,25 @@ void tst_CRkLightWgt::colorDialogCanBeRead()
             .pixelColor(0, 0);
     };
     QTRY_COMPARE(shown(), colors->palette().color(QPalette::Window));
+}
+
+void tst_CRkLightWgt::colorDialogIsHiddenWithTheDialog()
+{
+    CRkLightWgt dialog(nullptr);
+    dialog.InitWgt(sample(), "light");
+    dialog.show();
+    swatch(dialog, "light")->click();
+    auto* colors = dialog.findChild<QColorDialog*>();
+    colors->setCurrentColor(QColor(1, 2, 3));
+    dialog.findChild<QPushButton*>("m_pBtnClose")->click();
+    QVERIFY(!dialog.isVisible());
+    QVERIFY(!colors->isVisible());
+    QCOMPARE(currentRecord(dialog)[6].value<QColor>(), QColor(1, 2, 3));
+
+    dialog.show(); // And it comes back at its next use only.
+    QVERIFY(!colors->isVisible());
+    swatch(dialog, "light")->click();
+    QVERIFY(colors->isVisible());
 }
 
 void tst_CRkLightWgt::colorDialogGoesWithTheDialog()

@@ -145,6 +145,10 @@ void tst_LightWithoutOpenGL::directionIsShown_data()
     QTest::newRow("display without GLX") << none << QStringList(withoutGlx) << true << Look::OpenGL;
     QTest::newRow("no OpenGL in the toolkit")
         << none << QStringList("QT_XCB_GL_INTEGRATION=none") << true << Look::Drawn;
+    QTest::newRow("no OpenGL but that for embedded systems")
+        << QStringList("--embedded") << none << true << Look::Drawn;
+    QTest::newRow("no OpenGL with buffers for frames")
+        << QStringList("--no-framebuffers") << none << true << Look::Drawn;
     QTest::newRow("no driver") << none << QStringList(noDriver) << true << Look::Drawn;
     QTest::newRow("no driver, display without GLX")
         << none << QStringList({noDriver, withoutGlx}) << true << Look::Drawn;
