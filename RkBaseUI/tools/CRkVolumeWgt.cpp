@@ -8,6 +8,7 @@
 #include <RkBaseUI/CRkTableDelegate.h>
 
 #include <QHeaderView>
+#include <QPainter>
 #include <QSignalBlocker>
 
 #include <algorithm>
@@ -319,6 +320,14 @@ void CRkVolumeWgt::slotSpinBoxChanged(double valueTemp, const QString& cell)
     m_mapPtHeight.insert(table->item(row, IndexColumn)->text(), height);
 }
 
+/// The title bar lets half of what is below it through. On the pale dialog its white title would be
+/// hard to read, so that the dark of other title bars is laid there.
+void CRkVolumeWgt::paintEvent(QPaintEvent* event)
+{
+    CRkBaseDialog::paintEvent(event);
+    QPainter(this).fillRect(titleBar()->geometry(), QColor(4, 21, 46));
+}
+
 /// The levelling elevation of the grid, whose cells join those before.
 double CRkVolumeWgt::GenerateAvgElevation(const std::vector<rk::GridPoint>& points,
                                           const std::vector<rk::GridCell>& cells)
@@ -389,7 +398,6 @@ void CRkVolumeWgt::_appendRows(const std::vector<rk::GridPoint>& points)
             table->setItem(row, column, cells[std::size_t(column)]);
         ++row;
     }
-    table->viewport()->update();
 
     if (design.mode != Design::Plane)
         return;

@@ -63,6 +63,7 @@ Q_SIGNALS:
     void signalVolumeComplete(const QVariant& volumes);
 
 public Q_SLOTS:
+    /// The boxes show the stage and start nothing when clicked, and neither does "Cancel".
     void slotClickGroupBoxGrid(bool checked);
     void slotClickGroupBoxDesign(bool checked);
     void slotClickGridGenerate();
@@ -87,6 +88,9 @@ public Q_SLOTS:
     /// empty; without both, or with a row that is not there, nothing happens.
     void slotSpinBoxChanged(double valueTemp, const QString& cell);
 
+protected:
+    void paintEvent(QPaintEvent* event) override;
+
 private:
     double GenerateAvgElevation(const std::vector<rk::GridPoint>& points,
                                 const std::vector<rk::GridCell>& cells);
@@ -97,7 +101,7 @@ private:
 
     const std::unique_ptr<Ui::RkVolumeWgt> m_form;
     std::unique_ptr<CRkTableDelegate> m_pTableDelegate;
-    /// Of all grids; no terrain is higher than this start.
+    /// Of all grids so far. Terrain above the start never gets here.
     double m_dMinElevation = 10000.0;
     double m_dAvgElevation = 0.0;
     /// From point name to construction height.

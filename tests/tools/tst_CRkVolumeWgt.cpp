@@ -10,6 +10,7 @@
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QEvent>
 #include <QGroupBox>
 #include <QHeaderView>
 #include <QLabel>
@@ -115,6 +116,23 @@ QVariantMap computed(CRkVolumeWgt& window)
                                  : QVariantMap{{"signals", complete.count()}};
 }
 
+/// Counts how often a widget is painted.
+class PaintCounter : public QObject
+{
+public:
+    explicit PaintCounter(QWidget& widget) { widget.installEventFilter(this); }
+
+    int count = 0;
+
+protected:
+    bool eventFilter(QObject* object, QEvent* event) override
+    {
+        if (event->type() == QEvent::Paint)
+            ++count;
+        return QObject::eventFilter(object, event);
+    }
+};
+
 /// The library's texts in Chinese, as long as the object lives.
 class Chinese
 {
@@ -142,6 +160,8 @@ private slots:
     void frame();
     void parentedIsAWindow();
     void formObjects();
+    void titleIsReadable_data();
+    void titleIsReadable();
     void formColours_data();
     void formColours();
     void namesForEverybody();
@@ -165,6 +185,7 @@ private slots:
     void noCells();
 
     void planes();
+    void changesAreSeen();
     void thirdModeUntranslated();
     void thirdModeInChinese();
     void editorInChinese();
@@ -266,6 +287,28 @@ void tst_CRkVolumeWgt::formObjects()
                           "Elevation design:", "Grid length:"}));
     QVERIFY(!result(window).isEmpty());
     QVERIFY(!result(window).contains('\n'));
+}
+
+void tst_CRkVolumeWgt::titleIsReadable_data()
+{
+    addScales();
+}
+
+/// The bar is translucent, and dark all the same.
+void tst_CRkVolumeWgt::titleIsReadable()
+{
+    QFETCH(int, scale);
+    CRkVolumeWgt window(nullptr);
+    const QColor bar = colorAt(rendered(window, scale), {window.width() / 2 + 60, 5});
+    // 125/255 of (57, 53, 92) over (4, 21, 46).
+    QVERIFY2(std::abs(bar.red() - 30) <= 1 && std::abs(bar.green() - 37) <= 1
+                 && std::abs(bar.blue() - 69) <= 1,
+             qPrintable(bar.name()));
+    const QColor form = colorAt(rendered(window, scale), {3, 60});
+    QCOMPARE(form, QColor(232, 237, 246));
+
+    window.SetFrameHidden(true);
+    QCOMPARE(colorAt(rendered(window, scale), {3, 5}), QColor(232, 237, 246));
 }
 
 void tst_CRkVolumeWgt::formColours_data()
@@ -400,9 +443,12 @@ void tst_CRkVolumeWgt::initWgtStartsAnew()
     QVERIFY(part<QGroupBox>(*window, "groupBox_grid").isEnabled());
     QVERIFY(!part<QGroupBox>(*window, "groupBox_design").isEnabled());
 
-    // One connection to the delegate, not two.
+    // The delegate is the window's still.
     window->slotGridPt(fourPoints("P", 0, {10, 12, 14, 16}), oneCell);
-    QCOMPARE(allTexts(*window).size(), 4);
+    QCOMPARE(table(*window).rowCount(), 4);
+    emit qobject_cast<CRkTableDelegate*>(table(*window).itemDelegate())
+        ->signalSpinBoxChanged(9, "2|3");
+    QCOMPARE(texts(*window, 2).last(), QString("5.00"));
 }
 
 void tst_CRkVolumeWgt::initWgtLeavesHeightsAndCells()
@@ -587,6 +633,26 @@ void tst_CRkVolumeWgt::planes()
     QCOMPARE(result(*window), before);
 }
 
+/// The items do not report their changes one by one.
+void tst_CRkVolumeWgt::changesAreSeen()
+{
+    CRkVolumeWgt window(nullptr);
+    window.InitWgt();
+    window.slotGridPt({}, {});
+    window.show();
+    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QCoreApplication::processEvents();
+
+    PaintCounter paints(*table(window).viewport());
+    window.slotGridPt(fourPoints("P", 0, {10, 12, 14, 16}), oneCell);
+    QTRY_VERIFY(paints.count > 0);
+    QCoreApplication::processEvents();
+
+    paints.count = 0;
+    design(window).setCurrentIndex(1);
+    QTRY_VERIFY(paints.count > 0);
+}
+
 /// The entry has a blank at its end, and the mode has none.
 void tst_CRkVolumeWgt::thirdModeUntranslated()
 {
@@ -635,6 +701,15 @@ void tst_CRkVolumeWgt::thirdModeInChinese()
             QVERIFY(!(table(*window).item(row, column)->flags() & Qt::ItemIsEditable));
     }
     QVERIFY(result(*window).startsWith(CRkVolumeWgt::tr("Area:") + "400.00m^2\n"));
+
+    // A grid that comes then waits for its design elevations.
+    window->slotGridPt(fourPoints("N", 100, {20, 20, 20, 20}), {{"B", cell(100, 0, 20)}});
+    QCOMPARE(texts(*window, 5), QStringList({"N1", "20.00", "20.00", "", ""}));
+    QCOMPARE(texts(*window, 1), QStringList({"P1", "12.00", "20.00", "13.00", "-1.00"}));
+    QVERIFY(table(*window).item(5, 3)->flags() & Qt::ItemIsEditable);
+    QCOMPARE(table(*window).item(5, 3)->statusTip(), QString("5|3"));
+    QCOMPARE(computed(*window).value("A"), volumes.value("A"));
+    QCOMPARE(computed(*window).value("B").toList(), QVariantList({0.0, 0.0}));
 }
 
 void tst_CRkVolumeWgt::editorInChinese()

@@ -102,6 +102,7 @@ class tst_SquareGridVolume : public QObject
 private slots:
     void levellingOfCornerSums_data();
     void levellingOfCornerSums();
+    void levellingOfTheTextbookGrid();
     void levellingOfOneCell();
     void levellingOfSharedPoints();
     void pointsWithoutCells();
@@ -160,8 +161,11 @@ void tst_SquareGridVolume::levellingOfCornerSums()
     QFETCH(int, cells);
     QFETCH(double, expected);
     QCOMPARE(rk::levellingElevation({sum1, sum2, sum3, sum4}, cells), expected);
+}
 
-    // The textbook grid of squares of 100 m2: 2394 m3 lie above its datum.
+/// Squares of 100 m2: 2394 m3 lie above the datum.
+void tst_SquareGridVolume::levellingOfTheTextbookGrid()
+{
     const int textbookCells = 7;
     const double elevation = rk::levellingElevation({24.46, 17.38, 5.82, 4.77}, textbookCells);
     QVERIFY(std::fabs(elevation * textbookCells * 100 - 2394) < 1e-9);
@@ -539,23 +543,19 @@ void tst_SquareGridVolume::zeroIsNotAbove()
 
 void tst_SquareGridVolume::everySignPatternKeepsItsSigns()
 {
-    int patterns = 0;
     for (int code = 0; code < 81; ++code) {
         CornerHeights heights;
         int rest = code;
         for (std::size_t i = 0; i < 4; ++i, rest /= 3)
             heights[i] = (rest % 3 - 1) * (1.5 + double(i));
         const CellVolume volume = rk::cellVolume(heights, 20.0);
-        const bool anyAbove =
-            heights != CornerHeights{} && *std::max_element(heights.begin(), heights.end()) > 0;
+        const bool anyAbove = *std::max_element(heights.begin(), heights.end()) > 0;
         const bool anyBelow = *std::min_element(heights.begin(), heights.end()) < 0;
         QVERIFY(std::isfinite(volume.excavation) && std::isfinite(volume.fill));
         QCOMPARE(volume.excavation > 0, anyAbove);
         QCOMPARE(volume.fill < 0, anyBelow);
         QVERIFY(volume.excavation >= 0 && volume.fill <= 0);
-        ++patterns;
     }
-    QCOMPARE(patterns, 81);
 }
 
 void tst_SquareGridVolume::sideScalesVolumes()
