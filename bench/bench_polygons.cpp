@@ -11,6 +11,7 @@
 
 #include <geos_c.h>
 
+#include <algorithm>
 #include <cmath>
 #include <cstring>
 #include <random>
@@ -117,8 +118,8 @@ Outline aroundRandomTree(int count)
             cell += dx[way] + dy[way] * side;
             continue;
         }
-        const double x = cell % side + 0.5 * dx[right] * 0.5 + 0.25 * dx[way];
-        const double y = cell / side + 0.5 * dy[right] * 0.5 + 0.25 * dy[way];
+        const double x = cell % side + 0.25 * (dx[right] + dx[way]);
+        const double y = cell / side + 0.25 * (dy[right] + dy[way]);
         outline.emplace_back(x + randomBelow(0.05), y + randomBelow(0.05));
         if (open[std::size_t(cell)] & 1 << way)
             cell += dx[way] + dy[way] * side;

@@ -20,6 +20,7 @@ constexpr double metresPerKilometre = 1000;
 bool outlineToUtm(const QList<QPointF>& outline, std::vector<CRkPoint2D>& utm)
 {
     std::vector<CRkPoint2D> points;
+    points.reserve(std::size_t(outline.size()));
     for (const QPointF& point : outline)
         points.emplace_back(point.x(), point.y());
     return LatLng2UTM(points, utm);

@@ -27,6 +27,8 @@ namespace {
 
 constexpr int locationLimit = 3000; // ms
 constexpr int searchLimit = 5000; // ms
+/// A reply without end is not read any further, and so reaches the limit of time.
+constexpr qint64 largestReply = 32 * 1024 * 1024;
 
 /// What the service has sent when the reply ends or the limit, in milliseconds, has passed.
 QByteArray get(const QString& path, int limit)
@@ -38,6 +40,7 @@ QByteArray get(const QString& path, int limit)
     const QNetworkRequest request(
         QUrl(QString::fromUtf8(GetServerIP()) + path, QUrl::TolerantMode));
     QNetworkReply* reply = manager.get(request); // The manager's child; it goes with it.
+    reply->setReadBufferSize(largestReply);
     QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);
     QObject::connect(reply, &QNetworkReply::finished, &loop, &QEventLoop::quit);
     timer.start(limit);

@@ -21,8 +21,8 @@ class PointLatLng;
 // The two requests wait for the answer in an event loop of their own: the calling thread, in
 // practice the GUI thread, goes on with its events, so whatever they can delete must not be used
 // across the call. A call from such an event is answered before the one that it interrupted
-// returns. Only the JSON of the answer decides, not the HTTP status; nothing says why a call
-// failed.
+// returns. Only the JSON of the answer decides, not the HTTP status, and of an answer beyond 32 MB
+// no more is read; nothing says why a call failed.
 
 /// Where the service takes the user to be, in degrees (WGS84). False, and `pos` unchanged, when it
 /// gives no position within 3 seconds.

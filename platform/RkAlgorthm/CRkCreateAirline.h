@@ -28,8 +28,8 @@ public:
     /// share the vertices on their cut to the last bit, and together the parts cover the polygon.
     /// Areas are exact to one part in 10^9.
     ///
-    /// False, with `parts` empty, when IsBlockPloyCanSegment is false, and when more than 10,000
-    /// slices would be needed.
+    /// False, with `parts` empty, when IsBlockPloyCanSegment is false, when more than 10,000 slices
+    /// would be needed, and now and then for polygons beyond 1e15 or below 1e-100 units across.
     bool SegmentSurveyArea(std::vector<CRkPoint2D> polygon, double value,
                            std::vector<std::vector<CRkPoint2D>>& parts);
 };

@@ -123,9 +123,13 @@ public:
         : m_geos(geos)
     {
         for (std::size_t i = 0; i < segmentCount; ++i) {
-            m_pieces.push_back(
-                geos.polygon({left.corners[i].back(), left.corners[i + 1].front(),
-                              right.corners[i + 1].front(), right.corners[i].back()}));
+            // The bevel of a corner belongs to the segment before it.
+            Points piece = {right.corners[i].back(), left.corners[i].back()};
+            const Points& leftEnd = left.corners[i + 1];
+            const Points& rightEnd = right.corners[i + 1];
+            piece.insert(piece.end(), leftEnd.begin(), leftEnd.end());
+            piece.insert(piece.end(), rightEnd.rbegin(), rightEnd.rend());
+            m_pieces.push_back(geos.polygon(piece));
         }
     }
 

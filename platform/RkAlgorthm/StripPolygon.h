@@ -18,8 +18,8 @@
 ///
 /// `problems` gets, in ascending order, the indices of those vertices of `line` at which the line
 /// folds back on itself within the strip: the ends of every segment that is too short for its
-/// corners, or whose piece of the strip lies over that of a segment further on. The outline then
-/// crosses itself.
+/// corners, or whose piece of the strip lies over that of a segment further on. The outline may
+/// then cross itself; without problems it does not.
 ///
 /// False, with both lists empty, for fewer than two different points, offsets that are equal, or
 /// numbers that are not finite.

@@ -41,6 +41,9 @@ bool LatLng2UTM(const std::vector<CRkPoint2D>& in, std::vector<CRkPoint2D>& out)
         double x = 0;
         double y = 0;
         TransverseMercator::UTM().Forward(centralMeridian, point.x(), point.y(), x, y);
+        // On the equator a quarter of it away from the zone.
+        if (!std::isfinite(x) || !std::isfinite(y))
+            return false;
         projected.emplace_back(x + falseEasting, y + falseNorthing);
     }
     out = std::move(projected);

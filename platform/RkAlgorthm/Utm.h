@@ -15,7 +15,8 @@
 /// list as `in`.
 ///
 /// False, with `out` as it was, for an empty list, coordinates that are not finite, a latitude
-/// outside [-80, 84] or a longitude outside [-180, 180].
+/// outside [-80, 84], a longitude outside [-180, 180], or a point that the zone's projection takes
+/// to infinity.
 ///
 /// Formula: Karney, Transverse Mercator with an accuracy of a few nanometers (2011), as implemented
 /// by GeographicLib.

@@ -10,6 +10,8 @@
 #include <QThread>
 #include <QUrl>
 
+#include <algorithm>
+
 namespace {
 
 int& uploadTimeout()
@@ -79,5 +81,5 @@ void CRkUpLoadObject::_reportOutcome(QNetworkReply* reply)
 
 void SetUploadTimeout(int milliseconds)
 {
-    uploadTimeout() = milliseconds;
+    uploadTimeout() = std::max(milliseconds, 0);
 }

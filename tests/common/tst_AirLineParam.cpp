@@ -268,14 +268,14 @@ void tst_AirLineParam::singleTaskDistance_data()
     QTest::addColumn<bool>("reset");
     QTest::addColumn<double>("metres");
     QTest::addColumn<double>("kilometres");
-    // A quadrotor that follows the terrain 320 m up: (15000 * 0.9) - 3200.
-    QTest::newRow("not known") << -1.0 << false << 10300.0 << 10.3;
-    QTest::newRow("just below 0") << -1e-9 << false << 10300.0 << 10.3;
+    // A quadrotor with five lenses that follows the terrain 320 m up: 15000 * 0.85 * 0.9 - 3200.
+    QTest::newRow("not known") << -1.0 << false << 8275.0 << 8.275;
+    QTest::newRow("just below 0") << -1e-9 << false << 8275.0 << 8.275;
     QTest::newRow("0 is used") << 0.0 << false << 0.0 << 0.0;
     QTest::newRow("stored") << 2.5 << false << 2500.0 << 2.5;
-    QTest::newRow("stored, reset") << 2.5 << true << 10300.0 << 10.3;
-    QTest::newRow("0, reset") << 0.0 << true << 10300.0 << 10.3;
-    QTest::newRow("not known, reset") << -1.0 << true << 10300.0 << 10.3;
+    QTest::newRow("stored, reset") << 2.5 << true << 8275.0 << 8.275;
+    QTest::newRow("0, reset") << 0.0 << true << 8275.0 << 8.275;
+    QTest::newRow("not known, reset") << -1.0 << true << 8275.0 << 8.275;
 }
 
 void tst_AirLineParam::singleTaskDistance()
@@ -283,6 +283,7 @@ void tst_AirLineParam::singleTaskDistance()
     QFETCH(double, stored);
     QFETCH(bool, reset);
     task().SetPlaneType(PlaneTypeQuadrotor);
+    task().SetCameraType(CameraTypeFiveLens120);
     extended().SetFlyingMode(1);
     task().SetBlockSingleTaskMileage(stored);
     QVERIFY(UpdateAirLineParam(m_block.get(), m_param, reset));

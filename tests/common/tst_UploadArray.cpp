@@ -260,27 +260,38 @@ void tst_UploadArray::fileIsLeftAlone()
 void tst_UploadArray::tablesThatComputeAreNotAsked_data()
 {
     QTest::addColumn<int>("table");
-    QTest::newRow("project") << 0;
-    QTest::newRow("survey areas") << 1;
-    QTest::newRow("tasks") << 2;
-    QTest::newRow("points") << 3;
+    QTest::addColumn<bool>("isView");
+    QTest::newRow("projects are a view") << 0 << true;
+    QTest::newRow("survey areas are a view") << 1 << true;
+    QTest::newRow("tasks are a view") << 2 << true;
+    QTest::newRow("points are a view") << 3 << true;
+    QTest::newRow("projects have a generated column") << 0 << false;
+    QTest::newRow("survey areas have a generated column") << 1 << false;
+    QTest::newRow("tasks have a generated column") << 2 << false;
+    QTest::newRow("points have a generated column") << 3 << false;
 }
 
 void tst_UploadArray::tablesThatComputeAreNotAsked()
 {
     QFETCH(int, table);
+    QFETCH(bool, isView);
     const QStringList names = {ProjectTableName, SurveyAreaTableName, MissionTableName,
                                MarkerPointTableName};
     QStringList statements = emptyTables();
-    // Rows without end.
-    statements[table] = "CREATE VIEW " + names[table]
-        + " AS WITH RECURSIVE n(id) AS (SELECT 1 UNION ALL SELECT id + 1 FROM n) SELECT id, "
-          "'p' AS project_id, 'b' AS survey_area_guid, 'b' AS survey_block_id FROM n";
-    if (table != 0)
+    if (isView) { // With rows without end.
+        statements[table] = "CREATE VIEW " + names[table]
+            + " AS WITH RECURSIVE n(id) AS (SELECT 1 UNION ALL SELECT id + 1 FROM n) SELECT id, "
+              "'p' AS project_id, 'b' AS survey_area_guid, 'b' AS survey_block_id FROM n";
+    } else {
+        statements.append("ALTER TABLE " + names[table] + " ADD COLUMN c AS (1)");
+    }
+    if (table != 0 || !isView)
         statements.append(project("'p'", "A"));
-    if (table != 1)
+    if (table != 1 || !isView)
         statements.append(block("'1'", "b", "p"));
-    QCOMPARE(GetUploadArray(newFile(statements)), QByteArray("{}"));
+    const QString file = newFile(statements);
+    QVERIFY(!file.isEmpty());
+    QCOMPARE(GetUploadArray(file), QByteArray("{}"));
 }
 
 QTEST_GUILESS_MAIN(tst_UploadArray)

@@ -112,6 +112,7 @@ private slots:
     void locationTakesAtMostThreeSeconds();
     void searchTakesAtMostFiveSeconds_data();
     void searchTakesAtMostFiveSeconds();
+    void answersWithoutEndAreNotKept();
     void faultsOfTheService_data();
     void faultsOfTheService();
     void callsMayBeNested();
@@ -402,6 +403,23 @@ void tst_WebService::searchTakesAtMostFiveSeconds()
     QVERIFY2(elapsed <= searchLimit + 200 + heartbeat.largestGap(),
              qPrintable(QString::number(elapsed)));
     QVERIFY(heartbeat.beats() > 10);
+    QTRY_COMPARE(server.openConnections(), 0);
+}
+
+void tst_WebService::answersWithoutEndAreNotKept()
+{
+    RawServer server;
+    server.answer = "HTTP/1.1 200 OK\r\n\r\n";
+    server.refrain = QByteArray(1024 * 1024, ' ');
+    SetServerIP(server.address());
+    const Heartbeat heartbeat;
+    QVERIFY(!findsCentre());
+    const qint64 elapsed = heartbeat.elapsed();
+    QVERIFY2(elapsed <= locationLimit + 200 + heartbeat.largestGap(),
+             qPrintable(QString::number(elapsed)));
+    QVERIFY(server.refrainsTaken > 0);
+    constexpr qint64 most = 64 * 1024 * 1024; // What is on its way included.
+    QVERIFY2(server.refrainsTaken < most, qPrintable(QString::number(server.refrainsTaken)));
     QTRY_COMPARE(server.openConnections(), 0);
 }
 

@@ -25,6 +25,7 @@ private slots:
     void scriptIsKilled();
     void programFails();
     void serviceDoesNotStart();
+    void serviceEndsAtOnce();
     void serviceDiesFirst();
     void anotherServiceIsUsed();
     void optionsReachTheService();
@@ -159,6 +160,20 @@ void tst_WithService::serviceDoesNotStart()
     QCOMPARE(script.exitCode(), 1);
     QCOMPARE(script.readAllStandardOutput(), QByteArray());
     QVERIFY(script.readAllStandardError().contains("The web service did not start."));
+}
+
+void tst_WithService::serviceEndsAtOnce()
+{
+    // Whether the script's shell has noticed the end when it reads the address is chance.
+    for (int i = 0; i < 150; ++i) {
+        QProcess script;
+        script.setProcessEnvironment(m_environment);
+        script.start(RK_WITH_SERVICE, {"false", m_dir->filePath("service.db"), "echo", "started"});
+        QVERIFY(script.waitForFinished());
+        QCOMPARE(script.exitCode(), 1);
+        QCOMPARE(script.readAllStandardOutput(), QByteArray());
+        QCOMPARE(script.readAllStandardError(), QByteArray("The web service did not start.\n"));
+    }
 }
 
 void tst_WithService::serviceDiesFirst()

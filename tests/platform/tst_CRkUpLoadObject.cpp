@@ -169,6 +169,8 @@ private slots:
     void serviceThatHangsUp();
     void serviceThatSpeaksNoHttp();
     void serviceThatStandsStill();
+    void withoutLimitOfTime_data();
+    void withoutLimitOfTime();
     void signalsComeFromTheObjectsThread();
     void nothingIsSignalledDuringTheCall();
     void worksWithoutAThread();
@@ -333,6 +335,23 @@ void tst_CRkUpLoadObject::serviceThatStandsStill()
     QTRY_COMPARE(upload.outcomes, QStringList("error"));
     upload.settle();
     QCOMPARE(upload.outcomes.size(), 1);
+}
+
+void tst_CRkUpLoadObject::withoutLimitOfTime_data()
+{
+    QTest::addColumn<int>("milliseconds");
+    QTest::newRow("0") << 0;
+    QTest::newRow("below 0") << -1;
+}
+
+void tst_CRkUpLoadObject::withoutLimitOfTime()
+{
+    QFETCH(int, milliseconds);
+    SetUploadTimeout(milliseconds);
+    Service service;
+    Upload upload;
+    upload.post(service.url(), "data=x");
+    QTRY_COMPARE(upload.outcomes, QStringList("finished"));
 }
 
 void tst_CRkUpLoadObject::signalsComeFromTheObjectsThread()

@@ -1,11 +1,13 @@
 // SPDX-FileCopyrightText: 2026 The RkBaseUI developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
+#include <RkAlgorthm/CRkCreateAirline.h>
 #include <RkAlgorthm/StripPolygon.h>
 
 #include <QtTest>
 
 #include <cmath>
+#include <random>
 
 using Points = std::vector<CRkPoint2D>;
 
@@ -35,6 +37,7 @@ private slots:
     void outline();
     void folds_data();
     void folds();
+    void outlineWithoutProblemsIsSimple();
     void refused_data();
     void refused();
     void orderOfOffsets();
@@ -110,6 +113,12 @@ void tst_StripPolygon::folds_data()
         << Points({{0, 0}, {200, 0}, {200, 100}, {100, 100}, {100, -100}}) << Indices({0, 1, 3, 4});
     QTest::newRow("comes back beside itself")
         << Points({{0, 0}, {200, 0}, {200, 100}, {0, 15}}) << Indices({0, 1, 2, 3});
+    QTest::newRow("ends in the bevel of a sharp corner")
+        << Points({{0, 0}, {100, 0}, {0, 100}, {0, 200}, {300, 200}, {300, -6}, {101, -6}})
+        << Indices({0, 1, 5, 6});
+    QTest::newRow("ends beside the bevel of a sharp corner")
+        << Points({{0, 0}, {100, 0}, {0, 100}, {0, 200}, {300, 200}, {300, -6}, {109, -6}})
+        << Indices();
     QTest::newRow("repeated points keep their numbers")
         << Points({{-500, 0}, {-500, 0}, {0, 0}, {0, 0}, {100, 0}, {100, 19}, {0, 19}})
         << Indices({2, 4, 5, 6});
@@ -123,6 +132,34 @@ void tst_StripPolygon::folds()
     QVERIFY(CreateStripPolygon(line, -10, 10, outline, problems));
     QVERIFY(outline.size() >= 4);
     QTEST(problems, "problems");
+}
+
+void tst_StripPolygon::outlineWithoutProblemsIsSimple()
+{
+    std::mt19937 engine(6);
+    const auto random = [&engine](double low, double high) {
+        return std::uniform_real_distribution<double>(low, high)(engine);
+    };
+    constexpr int count = 15000;
+    int folded = 0;
+    for (int i = 0; i < count; ++i) {
+        Points line = {{0, 0}};
+        for (int segments = int(random(1, 9)); segments > 0; --segments) {
+            const double angle = random(0, 6.283185307179586);
+            const double length = std::pow(10, random(1.3, 2.2));
+            line.emplace_back(line.back().x() + length * std::cos(angle),
+                              line.back().y() + length * std::sin(angle));
+        }
+        const double left = random(-20, -1);
+        const double right = random(1, 20);
+        Points outline;
+        QList<int> problems;
+        QVERIFY(CreateStripPolygon(line, left, right, outline, problems));
+        folded += problems.isEmpty() ? 0 : 1;
+        // What can be split is simple.
+        QVERIFY(!problems.isEmpty() || IsBlockPloyCanSegment(outline, 1e-3));
+    }
+    QVERIFY(folded > count / 10 && folded < count * 9 / 10);
 }
 
 void tst_StripPolygon::refused_data()

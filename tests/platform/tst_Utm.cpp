@@ -62,6 +62,7 @@ private slots:
     void sameList();
     void refused_data();
     void refused();
+    void pointAtInfinity();
 };
 
 void tst_Utm::knownValues()
@@ -166,6 +167,16 @@ void tst_Utm::refused()
     QVERIFY(!LatLng2UTM({{30, 104}, {lat, lng}}, out));
     QVERIFY(!LatLng2UTM({}, out));
     QVERIFY(out == before);
+}
+
+void tst_Utm::pointAtInfinity()
+{
+    const Points before = {{1, 2}};
+    for (const double lng : {93.0, -87.0}) { // a quarter of the equator from 3 degrees
+        Points out = before;
+        QVERIFY(!LatLng2UTM({{0, 3}, {0, lng}}, out));
+        QVERIFY(out == before);
+    }
 }
 
 QTEST_GUILESS_MAIN(tst_Utm)

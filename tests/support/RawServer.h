@@ -37,6 +37,9 @@ public:
     int interval = 0;
     /// Hangs up after the answer.
     bool closes = true;
+    /// Sent after the answer, over and over, as fast as it is taken.
+    QByteArray refrain;
+    qint64 refrainsTaken = 0; ///< bytes
     /// The first line of each request so far.
     QVector<QByteArray> requestLines;
     /// Called for each request before its answer is sent.
@@ -89,8 +92,19 @@ private:
             return;
         }
         socket->write(answer);
-        if (closes)
+        if (!refrain.isEmpty())
+            repeat(socket);
+        else if (closes)
             socket->disconnectFromHost();
+    }
+
+    void repeat(QTcpSocket* socket)
+    {
+        connect(socket, &QTcpSocket::bytesWritten, this, [this, socket](qint64 bytes) {
+            refrainsTaken += bytes;
+            if (socket->bytesToWrite() == 0)
+                socket->write(refrain);
+        });
     }
 
     void trickle(QTcpSocket* socket)
