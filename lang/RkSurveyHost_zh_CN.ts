@@ -317,6 +317,73 @@
         <source>Language: %1</source>
         <translation>语言：%1</translation>
     </message>
+    <message>
+        <source>Map</source>
+        <translation>地图</translation>
+    </message>
+    <message>
+        <source>The map with the blocks of the project (%1)</source>
+        <translation>显示项目测区的地图 (%1)</translation>
+    </message>
+    <message>
+        <source>Terrain</source>
+        <translation>地形</translation>
+    </message>
+    <message>
+        <source>The terrain from above, for measuring earthwork (%1)</source>
+        <translation>地形俯视图，用于计算土方量 (%1)</translation>
+    </message>
+    <message>
+        <source>3-D view</source>
+        <translation>三维视图</translation>
+    </message>
+    <message>
+        <source>The terrain in three dimensions, under a light (%1)</source>
+        <translation>光照下的三维地形 (%1)</translation>
+    </message>
+    <message>
+        <source>Survey tools</source>
+        <translation>测量工具</translation>
+    </message>
+    <message>
+        <source>Earthwork</source>
+        <translation>土方量计算</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>光照</translation>
+    </message>
+    <message>
+        <source>Antenna height</source>
+        <translation>天线高</translation>
+    </message>
+    <message>
+        <source>Coordinates</source>
+        <translation>坐标转换</translation>
+    </message>
+</context>
+<context>
+    <name>LightPanel</name>
+    <message>
+        <source>3-D view</source>
+        <translation>三维视图</translation>
+    </message>
+    <message>
+        <source>Light</source>
+        <translation>光照</translation>
+    </message>
+    <message>
+        <source>Set the light of the 3-D view</source>
+        <translation>设置三维视图的光照参数</translation>
+    </message>
+    <message>
+        <source>Drag to turn, wheel to zoom. Heights × %1</source>
+        <translation>拖动旋转，滚轮缩放；高程放大 %1 倍</translation>
+    </message>
+    <message>
+        <source>There is no OpenGL on this machine, so the terrain is drawn plainly.</source>
+        <translation>本机不支持 OpenGL，地形以简化方式绘制。</translation>
+    </message>
 </context>
 <context>
     <name>MapButtons</name>
@@ -346,6 +413,67 @@
     <message>
         <source>Map</source>
         <translation>地图</translation>
+    </message>
+</context>
+<context>
+    <name>SurveyTools</name>
+    <message>
+        <source>Vertical height: %1 m</source>
+        <translation>天线垂高：%1 m</translation>
+    </message>
+    <message>
+        <source>Coordinates: %1</source>
+        <translation>坐标：%1</translation>
+    </message>
+</context>
+<context>
+    <name>TerrainLegend</name>
+    <message>
+        <source>%1 m</source>
+        <translation>%1 m</translation>
+    </message>
+    <message>
+        <source>Elevation</source>
+        <translation>高程</translation>
+    </message>
+    <message>
+        <source>Fill and cut of a cell, m³</source>
+        <translation>方格填挖方量，m³</translation>
+    </message>
+</context>
+<context>
+    <name>TerrainPanel</name>
+    <message>
+        <source>Terrain</source>
+        <translation>地形</translation>
+    </message>
+    <message>
+        <source>Earthwork</source>
+        <translation>土方量计算</translation>
+    </message>
+    <message>
+        <source>Measure cut and fill over a grid of squares</source>
+        <translation>用方格网法测量挖填方量</translation>
+    </message>
+    <message>
+        <source>Drag the grid to its place. Hold Alt to turn it.</source>
+        <translation>拖动方格网到测量位置，按住 Alt 键拖动可旋转。</translation>
+    </message>
+    <message>
+        <source>Such cells are too large for the terrain.</source>
+        <translation>方格边长过大，超出地形范围。</translation>
+    </message>
+    <message>
+        <source>Generate a grid first.</source>
+        <translation>请先生成方格网。</translation>
+    </message>
+    <message>
+        <source>%1: cut %2, fill %3 m³</source>
+        <translation>%1：挖方 %2，填方 %3 m³</translation>
+    </message>
+    <message>
+        <source>E %1  N %2  H %3 m</source>
+        <translation>E %1  N %2  H %3 m</translation>
     </message>
 </context>
 <context>
@@ -385,6 +513,21 @@
     <message>
         <source>Whose projects are shown. Choose a user or type an id.</source>
         <translation>显示该用户的项目，可选择用户或输入用户编号。</translation>
+    </message>
+</context>
+<context>
+    <name>ViewButtons</name>
+    <message>
+        <source>Zoom in</source>
+        <translation>放大</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>缩小</translation>
+    </message>
+    <message>
+        <source>Show the whole terrain</source>
+        <translation>显示全部地形</translation>
     </message>
 </context>
 </TS>

@@ -57,7 +57,9 @@ CRkLightWgt::CRkLightWgt(QWidget* parent)
 
 CRkLightWgt::~CRkLightWgt() = default;
 
-void CRkLightWgt::InitWgt(const QList<QVariant>& record, const QString& name)
+// What is sent meanwhile may end in the caller's own list.
+// NOLINTNEXTLINE(performance-unnecessary-value-param)
+void CRkLightWgt::InitWgt(QList<QVariant> record, const QString& name)
 {
     const auto number = [&record](int index) { return record.value(index).toDouble(); };
     m_name = name;

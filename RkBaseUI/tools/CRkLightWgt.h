@@ -51,7 +51,7 @@ public:
     /// `name`. Positions are read as doubles; coefficients are cut, not rounded, to hundredths.
     /// Missing elements and those of a wrong type count as 0 and as an invalid colour, which is
     /// shown black; what is out of range or not a number is brought into the range.
-    void InitWgt(const QList<QVariant>& record, const QString& name);
+    void InitWgt(QList<QVariant> record, const QString& name);
 
 Q_SIGNALS:
     /// The light, a QVariantList, and the name given to `InitWgt`.

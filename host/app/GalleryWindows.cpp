@@ -68,7 +68,7 @@ QVector<Gallery::Entry> galleryWindows()
         {QStringLiteral("view-keyword"), viewPage, filterByKeyword},
         {QStringLiteral("view-city"), viewPage, filterByCity},
     };
-    return pages + galleryHost() + galleryProjects() + galleryCity() + galleryDates()
+    return pages + galleryHost() + gallerySurvey() + galleryProjects() + galleryCity() + galleryDates()
         + galleryBlocks() + galleryCalculators() + galleryTools() + galleryLight()
         + galleryDialogs() + galleryControls() + galleryPictures() + galleryMessages();
 }

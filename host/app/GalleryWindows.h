@@ -37,6 +37,9 @@ QVector<Gallery::Entry> galleryLight();
 /// Of these, the survey tools.
 QVector<Gallery::Entry> galleryTools();
 
+/// Of these, the host's main window while the survey tools work on its pages.
+QVector<Gallery::Entry> gallerySurvey();
+
 /// Of these, sheets of controls in their states.
 QVector<Gallery::Entry> galleryControls();
 

@@ -3,6 +3,7 @@
 
 #include "app/HostIcons.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 #include <QPainterPath>
 #include <QPixmap>
@@ -74,6 +75,104 @@ QPainterPath project()
     return path;
 }
 
+QPainterPath polyline(std::initializer_list<QPointF> points)
+{
+    QPainterPath path(*points.begin());
+    for (const QPointF& point : points)
+        path.lineTo(point);
+    return path;
+}
+
+/// A folded sheet.
+QPainterPath map()
+{
+    QPainterPath path = polyline({{3, 5},
+                                  {7.7, 3.2},
+                                  {12.3, 5},
+                                  {17, 3.2},
+                                  {17, 15},
+                                  {12.3, 16.8},
+                                  {7.7, 15},
+                                  {3, 16.8},
+                                  {3, 5}});
+    path.addPath(lines({{7.7, 3.2, 7.7, 15}, {12.3, 5, 12.3, 16.8}}));
+    return path;
+}
+
+QPainterPath mountains()
+{
+    QPainterPath path = polyline({{2.5, 16}, {8, 5.5}, {13.5, 16}, {2.5, 16}});
+    path.addPath(polyline({{11.2, 11.2}, {13.4, 8}, {17.5, 16}, {13.5, 16}}));
+    return path;
+}
+
+QPainterPath cube()
+{
+    QPainterPath path =
+        polyline({{10, 3}, {16.2, 6.5}, {16.2, 13.5}, {10, 17}, {3.8, 13.5}, {3.8, 6.5}, {10, 3}});
+    path.addPath(polyline({{3.8, 6.5}, {10, 10}, {16.2, 6.5}}));
+    path.addPath(lines({{10, 10, 10, 17}}));
+    return path;
+}
+
+/// Dividers.
+QPainterPath dividers()
+{
+    QPainterPath path = polyline({{5, 17}, {10, 5.6}, {15, 17}});
+    path.addEllipse(QPointF(10, 3.9), 1.7, 1.7);
+    path.addPath(lines({{7.1, 12.2, 12.9, 12.2}}));
+    return path;
+}
+
+/// A turned grid.
+QPainterPath grid()
+{
+    QPainterPath path = polyline({{10, 2.8}, {17.2, 10}, {10, 17.2}, {2.8, 10}, {10, 2.8}});
+    path.addPath(lines({{6.4, 6.4, 13.6, 13.6}, {13.6, 6.4, 6.4, 13.6}}));
+    return path;
+}
+
+QPainterPath sun()
+{
+    QPainterPath path;
+    path.addEllipse(QPointF(10, 10), 3.4, 3.4);
+    for (int ray = 0; ray < 8; ++ray) {
+        const QLineF line = QLineF::fromPolar(1, ray * 45);
+        path.moveTo(QPointF(10, 10) + line.p2() * 5.8);
+        path.lineTo(QPointF(10, 10) + line.p2() * 7.4);
+    }
+    return path;
+}
+
+/// An antenna on a tripod.
+QPainterPath antenna()
+{
+    QPainterPath path;
+    path.addRoundedRect(QRectF(5.6, 3, 8.8, 3.4), 1.6, 1.6);
+    path.addPath(lines({{10, 6.4, 10, 17}, {10, 9.2, 5, 17}, {10, 9.2, 15, 17}}));
+    return path;
+}
+
+/// Cross hairs.
+QPainterPath crossHairs()
+{
+    QPainterPath path;
+    path.addEllipse(QPointF(10, 10), 5, 5);
+    path.addPath(lines(
+        {{10, 2.5, 10, 7.5}, {10, 12.5, 10, 17.5}, {2.5, 10, 7.5, 10}, {12.5, 10, 17.5, 10}}));
+    return path;
+}
+
+/// Most of a circle, with a head.
+QPainterPath turn()
+{
+    QPainterPath path;
+    path.arcMoveTo(QRectF(3.5, 3.5, 13, 13), 40);
+    path.arcTo(QRectF(3.5, 3.5, 13, 13), 40, 285);
+    path.addPath(polyline({{15.4, 2.4}, {15.2, 6.2}, {11.4, 6}}));
+    return path;
+}
+
 QPainterPath drawing(Shape shape)
 {
     switch (shape) {
@@ -90,8 +189,45 @@ QPainterPath drawing(Shape shape)
         return block();
     case Shape::Project:
         return project();
+    case Shape::Whole:
+        return frame();
+    case Shape::Map:
+        return map();
+    case Shape::Terrain:
+        return mountains();
+    case Shape::Scene:
+        return cube();
+    case Shape::Tools:
+        return dividers();
+    case Shape::Earthwork:
+        return grid();
+    case Shape::Light:
+        return sun();
+    case Shape::Antenna:
+        return antenna();
+    case Shape::Coordinates:
+        return crossHairs();
+    case Shape::Turn:
+        return turn();
     }
     return {};
+}
+
+} // namespace
+
+namespace {
+
+QPen pen(const QColor& colour, double width)
+{
+    return {colour, width, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin};
+}
+
+QPixmap emptyPicture(double scale)
+{
+    QPixmap picture(QSize(side, side) * scale);
+    picture.setDevicePixelRatio(scale);
+    picture.fill(Qt::transparent);
+    return picture;
 }
 
 } // namespace
@@ -100,17 +236,26 @@ QIcon icon(Shape shape, const QColor& colour)
 {
     QIcon icon;
     for (int scale = 1; scale <= 4; ++scale) {
-        QPixmap picture(side * scale, side * scale);
-        picture.setDevicePixelRatio(scale);
-        picture.fill(Qt::transparent);
+        QPixmap picture = emptyPicture(scale);
         QPainter painter(&picture);
         painter.setRenderHint(QPainter::Antialiasing);
-        painter.setPen(QPen(colour, 1.6, Qt::SolidLine, Qt::RoundCap, Qt::RoundJoin));
+        painter.setPen(pen(colour, 1.6));
         painter.drawPath(drawing(shape));
         painter.end();
         icon.addPixmap(picture);
     }
     return icon;
+}
+
+QCursor cursor(Shape shape)
+{
+    QPixmap picture = emptyPicture(qGuiApp->devicePixelRatio());
+    QPainter painter(&picture);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.strokePath(drawing(shape), pen(Qt::white, 4));
+    painter.strokePath(drawing(shape), pen(QColor(9, 2, 38), 1.8));
+    painter.end();
+    return QCursor(picture);
 }
 
 } // namespace HostIcons

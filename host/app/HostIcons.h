@@ -4,14 +4,36 @@
 #pragma once
 
 #include <QColor>
+#include <QCursor>
 #include <QIcon>
 
 /// Line drawings for the host's own buttons.
 namespace HostIcons {
 
-enum class Shape { Projects, Language, Plus, Minus, Block, Project, Country };
+enum class Shape {
+    Projects,
+    Language,
+    Plus,
+    Minus,
+    Block,
+    Project,
+    Country,
+    Whole,
+    Map,
+    Terrain,
+    Scene,
+    Tools,
+    Earthwork,
+    Light,
+    Antenna,
+    Coordinates,
+    Turn
+};
 
 /// The drawing in one colour, 20 pixels wide at every scale of the screen.
 QIcon icon(Shape shape, const QColor& colour);
+
+/// The drawing as the shape of the mouse's cursor, to be seen on every ground.
+QCursor cursor(Shape shape);
 
 } // namespace HostIcons

@@ -6,9 +6,13 @@
 #include "app/BlockPanel.h"
 #include "app/HostIcons.h"
 #include "app/HostSettings.h"
+#include "app/LightPanel.h"
 #include "app/MapPanel.h"
 #include "app/ProjectContent.h"
+#include "app/SurveyTools.h"
+#include "app/TerrainPanel.h"
 #include "app/UserBox.h"
+#include "terrain/SampleTerrain.h"
 
 #include <RkBaseUI/CRkBlockManagerWidget.h>
 #include <RkBaseUI/CRkProjectManagerDialog.h>
@@ -19,6 +23,8 @@
 #include <QEvent>
 #include <QLabel>
 #include <QMenu>
+#include <QStackedWidget>
+#include <QStatusBar>
 #include <QToolBar>
 #include <QToolButton>
 
@@ -47,6 +53,7 @@ QToolBar QToolButton {
 }
 QToolBar QToolButton:hover { background-color: rgb(19, 41, 74); }
 QToolBar QToolButton:pressed, QToolBar QToolButton:open { background-color: rgb(31, 58, 100); }
+QToolBar QToolButton:checked { color: white; background-color: rgb(31, 58, 100); }
 QToolBar QToolButton:focus { border-color: rgb(150, 195, 255); }
 QToolBar QToolButton::menu-indicator { image: none; width: 0; }
 QToolBar QToolButton#openProjects {
@@ -72,25 +79,37 @@ QToolBar QComboBox QAbstractItemView {
 }
 QMenu {
     color: rgb(230, 238, 250); background-color: rgb(4, 21, 46); font-size: 13px;
-    border: 1px solid rgb(52, 78, 118); padding: 4px;
+    border: 1px solid rgb(52, 78, 118); padding: 4px; icon-size: 20px;
 }
 QMenu::item { padding: 7px 28px 7px 14px; border-radius: 3px; }
 QMenu::item:selected { background-color: rgb(31, 58, 100); }
 QMenu::item:checked { color: white; background-color: rgb(58, 136, 244); }
 QMenu::indicator { width: 0; }
+QMenu::icon { padding-left: 10px; }
+QStatusBar { background-color: white; border-top: 1px solid rgb(214, 221, 232); }
+QStatusBar::item { border: none; }
+QStatusBar QLabel { color: rgb(38, 52, 78); font-size: 13px; padding: 5px 14px; }
 )";
+
+/// A control of the tool bar.
+void prepare(QWidget& button)
+{
+    button.setFixedHeight(controlHeight);
+    button.setFocusPolicy(Qt::TabFocus);
+    button.setCursor(Qt::PointingHandCursor);
+}
 
 } // namespace
 
 HostWindow::HostWindow(QWidget* parent)
     : QMainWindow(parent)
-    , m_map(new MapPanel(this))
 {
     setStyleSheet(QString::fromLatin1(windowStyle));
     setContextMenuPolicy(Qt::NoContextMenu);
-    setCentralWidget(m_map);
+    makePages();
     makeToolBar();
     makeDock();
+    makeStatusBar();
     retranslate();
     resize(windowSize);
     m_map->setFocus();
@@ -106,6 +125,21 @@ CRkProjectManagerDialog* HostWindow::projectsDialog() const
     return m_projects;
 }
 
+void HostWindow::makePages()
+{
+    const ElevationModel model = sampleTerrain();
+    m_pages = new QStackedWidget(this);
+    m_map = new MapPanel(m_pages);
+    m_terrain = new TerrainPanel(model, m_pages);
+    m_scene = new LightPanel(model, m_pages);
+    for (QWidget* page : std::initializer_list<QWidget*>{m_map, m_terrain, m_scene})
+        m_pages->addWidget(page);
+    setCentralWidget(m_pages);
+    m_surveyTools = new SurveyTools(m_map, m_terrain, m_scene, this);
+    connect(m_terrain, &TerrainPanel::earthworkWanted, this, &HostWindow::openEarthwork);
+    connect(m_scene, &LightPanel::lightWanted, this, &HostWindow::openLight);
+}
+
 void HostWindow::makeToolBar()
 {
     m_tools = addToolBar(QString());
@@ -115,23 +149,60 @@ void HostWindow::makeToolBar()
     m_brand = new QLabel(m_tools);
     m_brand->setObjectName(QStringLiteral("brand"));
     m_tools->addWidget(m_brand);
+    makeProjectsButton();
+    makePageButtons();
+    makeToolsMenu();
+    addGap();
+    makeUserBox();
+    makeLanguageMenu();
+}
+
+void HostWindow::makeProjectsButton()
+{
     m_openProjects = m_tools->addAction(HostIcons::icon(HostIcons::Shape::Projects, Qt::white),
                                         QString(), this, &HostWindow::openProjects);
     m_openProjects->setShortcut(QKeySequence::Open);
     QWidget* open = m_tools->widgetForAction(m_openProjects);
     open->setObjectName(QStringLiteral("openProjects"));
-    open->setFixedHeight(controlHeight);
-    open->setFocusPolicy(Qt::TabFocus);
-    open->setCursor(Qt::PointingHandCursor);
-    addGap();
-    m_userTitle = new QLabel(m_tools);
-    m_user = new UserBox(m_tools);
-    m_user->setFixedSize(190, controlHeight);
-    m_userTitle->setBuddy(m_user);
-    connect(m_user, &UserBox::userChanged, this, &HostWindow::closeBlock);
-    m_tools->addWidget(m_userTitle);
-    m_tools->addWidget(m_user);
-    makeLanguageMenu();
+    prepare(*open);
+}
+
+void HostWindow::makePageButtons()
+{
+    using HostIcons::Shape;
+    m_pageActions = new QActionGroup(this);
+    const QVector<QPair<Shape, Qt::Key>> pages = {
+        {Shape::Map, Qt::Key_1}, {Shape::Terrain, Qt::Key_2}, {Shape::Scene, Qt::Key_3}};
+    for (const auto& [shape, key] : pages) {
+        QAction* action = m_pageActions->addAction(HostIcons::icon(shape, lightInk), QString());
+        action->setCheckable(true);
+        action->setShortcut(QKeySequence(int(Qt::CTRL) + int(key)));
+        const auto page = Page(m_pageActions->actions().size() - 1);
+        connect(action, &QAction::triggered, this, [this, page] { showPage(page); });
+        m_tools->addAction(action);
+        prepare(*m_tools->widgetForAction(action));
+    }
+    m_pageActions->actions().constFirst()->setChecked(true);
+}
+
+void HostWindow::makeToolsMenu()
+{
+    using HostIcons::Shape;
+    m_toolsButton = makeMenuButton();
+    m_toolsButton->setObjectName(QStringLiteral("tools"));
+    m_toolsButton->setIcon(HostIcons::icon(Shape::Tools, lightInk));
+    QMenu* menu = m_toolsButton->menu();
+    const auto add = [&](Shape shape, Qt::Key key, auto* receiver, auto slot) {
+        QAction* action = menu->addAction(HostIcons::icon(shape, lightInk), QString());
+        action->setShortcut(QKeySequence(int(Qt::CTRL) + int(key)));
+        connect(action, &QAction::triggered, receiver, slot);
+        m_toolActions.append(action);
+    };
+    add(Shape::Earthwork, Qt::Key_E, this, &HostWindow::openEarthwork);
+    add(Shape::Light, Qt::Key_L, this, &HostWindow::openLight);
+    add(Shape::Antenna, Qt::Key_H, m_surveyTools, &SurveyTools::computeAntennaHeight);
+    add(Shape::Coordinates, Qt::Key_D, m_surveyTools, &SurveyTools::convertCoordinates);
+    m_tools->addWidget(m_toolsButton);
 }
 
 /// What follows in the tool bar stands at its right end.
@@ -142,16 +213,33 @@ void HostWindow::addGap()
     m_tools->addWidget(gap);
 }
 
+void HostWindow::makeUserBox()
+{
+    m_userTitle = new QLabel(m_tools);
+    m_user = new UserBox(m_tools);
+    m_user->setFixedSize(190, controlHeight);
+    m_userTitle->setBuddy(m_user);
+    connect(m_user, &UserBox::userChanged, this, &HostWindow::closeBlock);
+    m_tools->addWidget(m_userTitle);
+    m_tools->addWidget(m_user);
+}
+
+QToolButton* HostWindow::makeMenuButton()
+{
+    auto* button = new QToolButton(m_tools);
+    button->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
+    button->setPopupMode(QToolButton::InstantPopup);
+    prepare(*button);
+    button->setMenu(new QMenu(button));
+    return button;
+}
+
 void HostWindow::makeLanguageMenu()
 {
-    m_language = new QToolButton(m_tools);
+    m_language = makeMenuButton();
+    m_language->setObjectName(QStringLiteral("language"));
     m_language->setIcon(HostIcons::icon(HostIcons::Shape::Language, lightInk));
-    m_language->setToolButtonStyle(Qt::ToolButtonTextBesideIcon);
-    m_language->setPopupMode(QToolButton::InstantPopup);
-    m_language->setFixedHeight(controlHeight);
-    m_language->setFocusPolicy(Qt::TabFocus);
-    m_language->setCursor(Qt::PointingHandCursor);
-    auto* menu = new QMenu(m_language);
+    QMenu* menu = m_language->menu();
     m_languages = new QActionGroup(menu);
     // Each in itself, so that whoever is lost finds his own.
     const QVector<QPair<QString, QString>> languages = {
@@ -168,7 +256,6 @@ void HostWindow::makeLanguageMenu()
     connect(m_languages, &QActionGroup::triggered, this, [](const QAction* action) {
         HostSettings::installLanguage(action->data().toString());
     });
-    m_language->setMenu(menu);
     m_tools->addWidget(m_language);
 }
 
@@ -177,11 +264,30 @@ void HostWindow::makeDock()
     m_block = new BlockPanel(this);
     m_block->setFixedWidth(panelWidth);
     connect(m_block, &BlockPanel::projectsWanted, this, &HostWindow::openProjects);
-    auto* dock = new QDockWidget(this);
-    dock->setFeatures(QDockWidget::NoDockWidgetFeatures);
-    dock->setTitleBarWidget(new QWidget(dock)); // The panel says itself what it is.
-    dock->setWidget(m_block);
-    addDockWidget(Qt::RightDockWidgetArea, dock);
+    m_dock = new QDockWidget(this);
+    m_dock->setFeatures(QDockWidget::NoDockWidgetFeatures);
+    m_dock->setTitleBarWidget(new QWidget(m_dock)); // The panel says itself what it is.
+    m_dock->setWidget(m_block);
+    addDockWidget(Qt::RightDockWidgetArea, m_dock);
+}
+
+/// Hidden until there is a result.
+void HostWindow::makeStatusBar()
+{
+    m_result = new QLabel(this);
+    m_result->setObjectName(QStringLiteral("result"));
+    m_result->setTextFormat(Qt::PlainText);
+    m_result->setTextInteractionFlags(Qt::TextSelectableByMouse);
+    statusBar()->setSizeGripEnabled(false);
+    statusBar()->addWidget(m_result, 1);
+    statusBar()->hide();
+    connect(m_surveyTools, &SurveyTools::resultChanged, this, &HostWindow::showResult);
+}
+
+void HostWindow::showResult()
+{
+    m_result->setText(m_surveyTools->result());
+    statusBar()->setHidden(m_result->text().isEmpty());
 }
 
 void HostWindow::retranslate()
@@ -195,6 +301,9 @@ void HostWindow::retranslate()
     m_openProjects->setToolTip(
         tr("Open a project and one of its blocks (%1)")
             .arg(m_openProjects->shortcut().toString(QKeySequence::NativeText)));
+    retranslatePages();
+    retranslateTools();
+    showResult();
     m_userTitle->setText(tr("Current user"));
     const QString language = m_languages->checkedAction()->text();
     m_language->setText(language);
@@ -202,12 +311,64 @@ void HostWindow::retranslate()
     m_language->setAccessibleName(tr("Language: %1").arg(language));
 }
 
+void HostWindow::retranslatePages()
+{
+    struct Texts
+    {
+        QString name;
+        QString tip;
+    };
+    const QVector<Texts> pages = {
+        {tr("Map"), tr("The map with the blocks of the project (%1)")},
+        {tr("Terrain"), tr("The terrain from above, for measuring earthwork (%1)")},
+        {tr("3-D view"), tr("The terrain in three dimensions, under a light (%1)")}};
+    for (int i = 0; i < pages.size(); ++i) {
+        QAction* action = m_pageActions->actions().at(i);
+        action->setText(pages[i].name);
+        action->setToolTip(pages[i].tip.arg(action->shortcut().toString(QKeySequence::NativeText)));
+    }
+}
+
+void HostWindow::retranslateTools()
+{
+    m_toolsButton->setText(tr("Survey tools"));
+    const QStringList tools = {tr("Earthwork"), tr("Light"), tr("Antenna height"),
+                               tr("Coordinates")};
+    for (int i = 0; i < tools.size(); ++i)
+        m_toolActions[i]->setText(tools[i]);
+}
+
+HostWindow::Page HostWindow::page() const
+{
+    return Page(m_pages->currentIndex());
+}
+
+void HostWindow::showPage(Page page)
+{
+    m_pageActions->actions().at(int(page))->setChecked(true);
+    m_pages->setCurrentIndex(int(page));
+    m_pages->currentWidget()->setFocus();
+    m_dock->setVisible(page == Page::Map); // The block is none of the terrain's.
+}
+
+void HostWindow::openEarthwork()
+{
+    showPage(Page::Terrain);
+    m_surveyTools->openEarthwork();
+}
+
+void HostWindow::openLight()
+{
+    showPage(Page::Scene);
+    m_surveyTools->openLight();
+}
+
 void HostWindow::openProjects()
 {
     if (m_projects)
         return;
     if (m_user->hasFocus())
-        m_map->setFocus(); // Who is being typed there becomes the user.
+        m_pages->currentWidget()->setFocus(); // Who is being typed there becomes the user.
     // A new one each time: it lists the projects that are there now, of who is the user now.
     m_projects = new CRkProjectManagerDialog(this);
     m_projects->setAttribute(Qt::WA_DeleteOnClose);
@@ -230,6 +391,7 @@ void HostWindow::showBlock(const CRkOpenedProjectInfo& project, const QString& b
     QVector<MapBlocks::Block> blocks;
     for (const ProjectContent::Block& block : content.blocks)
         blocks.append({block.name, block.outline, block.isStrip, block.id == blockId});
+    showPage(Page::Map);
     m_block->showBlock(project, blockId, content);
     m_map->setBlocks(blocks);
     m_map->showBlock();

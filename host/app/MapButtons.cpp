@@ -4,27 +4,11 @@
 #include "app/MapButtons.h"
 
 #include "app/HostIcons.h"
+#include "app/PlateStyle.h"
 
 #include <QEvent>
 #include <QToolButton>
 #include <QVBoxLayout>
-
-namespace {
-
-const char* const columnStyle = R"(
-QToolButton {
-    background-color: rgba(255, 255, 255, 235); border: 1px solid rgb(200, 210, 224);
-    border-radius: 4px;
-}
-QToolButton:hover { background-color: white; border-color: rgb(58, 136, 244); }
-QToolButton:pressed { background-color: rgb(222, 234, 252); }
-QToolButton:focus { border: 2px solid rgb(58, 136, 244); }
-QToolButton:disabled {
-    background-color: rgba(255, 255, 255, 150); border-color: rgb(216, 223, 233);
-}
-)";
-
-} // namespace
 
 MapButtons::MapButtons(QWidget* parent)
     : QWidget(parent)
@@ -53,7 +37,7 @@ MapButtons::MapButtons(QWidget* parent)
         m_buttons.append(button);
     }
     layout->insertSpacing(2, 8); // Between the zoom and the places to go to.
-    setStyleSheet(QString::fromLatin1(columnStyle));
+    setStyleSheet(QString::fromLatin1(PlateStyle::styleSheet));
     retranslate();
 }
 

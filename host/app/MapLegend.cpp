@@ -3,6 +3,7 @@
 
 #include "app/MapLegend.h"
 
+#include "app/PlateStyle.h"
 #include "map/MapGrid.h"
 #include "map/MapProjection.h"
 #include "map/ScaleBar.h"
@@ -18,7 +19,6 @@ constexpr double buttonColumn = 60; // Pixels on the right that are not written 
 
 const QColor ink(44, 60, 90);
 const QColor faint(84, 106, 146);
-const QColor edge(200, 210, 224);
 
 QFont smallFont(const QPainter& painter, int pixels)
 {
@@ -51,15 +51,19 @@ void draw(QPainter& painter, const QRect& rectangle, const MapView& view,
           const QString& coordinates)
 {
     const double latitude = MapProjection::toDegrees(view.centre).x();
-    const ScaleBar bar = scaleBar(MapProjection::metresPerUnit(latitude) / view.scale, longestBar);
+    drawScale(painter, rectangle, MapProjection::metresPerUnit(latitude) / view.scale, coordinates);
+}
+
+void drawScale(QPainter& painter, const QRect& rectangle, double metresPerPixel,
+               const QString& coordinates)
+{
+    const ScaleBar bar = scaleBar(metresPerPixel, longestBar);
     QRect plate = rectangle;
     if (coordinates.isEmpty())
         plate.setWidth(int(bar.pixels) + 20);
+    PlateStyle::draw(painter, plate);
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(edge, 1));
-    painter.setBrush(QColor(255, 255, 255, 235));
-    painter.drawRoundedRect(QRectF(plate).adjusted(0.5, 0.5, -0.5, -0.5), 4, 4);
     painter.setFont(smallFont(painter, 12));
     drawBar(painter, plate, bar);
     painter.setPen(faint);

@@ -22,6 +22,10 @@ QSize size();
 void draw(QPainter& painter, const QRect& rectangle, const MapView& view,
           const QString& coordinates);
 
+/// The same for any view, from the metres on the ground of one pixel.
+void drawScale(QPainter& painter, const QRect& rectangle, double metresPerPixel,
+               const QString& coordinates);
+
 /// The degrees of the grid's lines along the upper and the left edge, and nothing below `foot`.
 void drawGridTexts(QPainter& painter, const MapView& view, double foot);
 

@@ -207,7 +207,9 @@ void tst_Gallery::programShowsEveryWindow()
     QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
     for (const char* name :
          {"view-tiles", "view-selected", "view-editing", "view-keyword", "view-city", "host",
-          "host-province", "host-country", "host-empty", "projects", "projects-selected",
+          "host-province", "host-country", "host-empty", "host-tools", "host-height",
+          "host-coordinates", "terrain", "terrain-grid", "terrain-grid-turned", "terrain-volumes",
+          "scene", "scene-morning", "scene-evening", "projects", "projects-selected",
           "projects-searched", "projects-blocks", "city-provinces", "city-cities",
           "city-searched-twice", "city-jump-province", "city-jump-city", "date-picker",
           "date-picker-from", "date-picker-to", "filter-bar", "filter-bar-city",
@@ -239,7 +241,7 @@ void tst_Gallery::languagesDiffer()
 {
     QCOMPARE(gallery(QStringLiteral("en"), 1).exitCode, 0);
     QCOMPARE(gallery(QStringLiteral("zh_CN"), 1).exitCode, 0);
-    for (const char* name : {"host", "base-dialog", "base-widget"}) {
+    for (const char* name : {"host", "terrain-volumes", "scene", "base-dialog", "base-widget"}) {
         QVERIFY2(QImage(file(QLatin1String(name), QStringLiteral("en"), 1))
                      != QImage(file(QLatin1String(name), QStringLiteral("zh_CN"), 1)),
                  name);

@@ -4,16 +4,22 @@
 #include "app/BlockPanel.h"
 #include "app/HostSettings.h"
 #include "app/HostWindow.h"
+#include "app/LightPanel.h"
 #include "app/MapPanel.h"
+#include "app/SurveyTools.h"
+#include "app/TerrainPanel.h"
 #include "app/UserBox.h"
+#include "map/MapProjection.h"
 #include "samples/SampleProjects.h"
 #include "support/TestSupport.h"
 
 #include <RkBaseUI/CRkBlockManagerWidget.h>
 #include <RkBaseUI/CRkGraphicsProjectRectItem.h>
+#include <RkBaseUI/CRkLightWgt.h>
 #include <RkBaseUI/CRkProjectManagerDialog.h>
 #include <RkBaseUI/CRkProjectManagerView.h>
 #include <RkBaseUI/CRkProjectManagerWidget.h>
+#include <RkBaseUI/CRkVolumeWgt.h>
 #include <RkData/CRkControl.h>
 #include <RkData/ReferenceSettings.h>
 
@@ -21,23 +27,30 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QGraphicsScene>
+#include <QLabel>
 #include <QLineEdit>
 #include <QMenu>
 #include <QPointer>
 #include <QProcess>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSettings>
 #include <QTest>
+#include <QTimer>
+#include <QToolBar>
 #include <QToolButton>
 #include <QTreeWidget>
 #include <QWheelEvent>
 #include <QWindow>
 
 #include <algorithm>
+#include <cmath>
+#include <functional>
 #include <memory>
 
 using Close = void (*)(CRkProjectManagerDialog&);
 Q_DECLARE_METATYPE(Close)
+Q_DECLARE_METATYPE(HostWindow::Page)
 
 namespace {
 
@@ -90,6 +103,25 @@ void typeUser(const UserBox& box, const QString& text)
     QTest::keyClicks(box.lineEdit(), text);
 }
 
+/// Acts on the modal dialog that is shown next while this lives.
+class RunningTool : public QObject
+{
+public:
+    explicit RunningTool(std::function<void(QDialog&)> action)
+    {
+        QTimer::singleShot(0, this, [action] {
+            auto* dialog = qobject_cast<QDialog*>(QApplication::activeModalWidget());
+            QVERIFY(dialog);
+            action(*dialog);
+        });
+    }
+};
+
+QLineEdit& field(const QDialog& dialog, const char* name)
+{
+    return *dialog.findChild<QLineEdit*>(QLatin1String(name));
+}
+
 } // namespace
 
 class tst_HostWindow : public QObject
@@ -119,6 +151,18 @@ private slots:
     void anotherUserClosesTheBlock();
     void dialogListsTheProjectsOfTheUser();
     void blockOfAProjectThatIsGoneIsShown();
+    void pagesAreReached_data();
+    void pagesAreReached();
+    void blockIsShownOnTheMap();
+    void toolsOpenOnTheirPages();
+    void shortcutsReachEverything();
+    void menuListsTheTools();
+    void antennaHeightIsShown();
+    void dismissedToolsShowNothing();
+    void coordinatesAreShown_data();
+    void coordinatesAreShown();
+    void coordinatesBeginAtTheMiddleOfTheMap();
+    void userBeingTypedCountsOnEveryPage();
     void languageMenuSwitches();
     void languageSwitchesUnderTheDialog();
     void languagesAreReplaced();
@@ -131,6 +175,8 @@ private:
     /// Opens the project and its first block in the dialog.
     void openBlockOf(const QString& file);
     static QAction* language(const HostWindow& window, const QString& id);
+    /// Of the menu of survey tools, in its order.
+    static QAction* tool(const HostWindow& window, int number);
 
     TestHome m_home;
     std::unique_ptr<HostWindow> m_window;
@@ -186,10 +232,16 @@ void tst_HostWindow::openBlockOf(const QString& file)
 
 QAction* tst_HostWindow::language(const HostWindow& window, const QString& id)
 {
-    const QList<QAction*> actions = window.findChild<QMenu*>()->actions();
+    const QList<QAction*> actions =
+        window.findChild<QToolButton*>(QStringLiteral("language"))->menu()->actions();
     const auto found = std::find_if(actions.begin(), actions.end(),
                                     [&](const QAction* action) { return action->data() == id; });
     return found == actions.end() ? nullptr : *found;
+}
+
+QAction* tst_HostWindow::tool(const HostWindow& window, int number)
+{
+    return window.findChild<QToolButton*>(QStringLiteral("tools"))->menu()->actions().at(number);
 }
 
 void tst_HostWindow::settingsHoldTheUser()
@@ -460,6 +512,194 @@ void tst_HostWindow::blockOfAProjectThatIsGoneIsShown()
     QVERIFY(m_window->windowTitle().startsWith(QFileInfo(file).completeBaseName()));
     QVERIFY2(!QFileInfo::exists(folder), "nothing is made in its place");
     QVERIFY(QDir().rename(elsewhere, folder));
+}
+
+void tst_HostWindow::pagesAreReached_data()
+{
+    QTest::addColumn<int>("button");
+    QTest::addColumn<HostWindow::Page>("page");
+    QTest::newRow("map") << 0 << HostWindow::Page::Map;
+    QTest::newRow("terrain") << 1 << HostWindow::Page::Terrain;
+    QTest::newRow("3-D view") << 2 << HostWindow::Page::Scene;
+}
+
+/// By its button, and with the focus for the keys.
+void tst_HostWindow::pagesAreReached()
+{
+    QFETCH(int, button);
+    QFETCH(HostWindow::Page, page);
+    const QVector<QWidget*> pages = {m_window->map(), m_window->terrain(), m_window->scene()};
+    QCOMPARE(m_window->page(), HostWindow::Page::Map);
+    m_window->showPage(page == HostWindow::Page::Map ? HostWindow::Page::Scene
+                                                     : HostWindow::Page::Map);
+    QApplication::setActiveWindow(m_window.get());
+    auto* bar = m_window->findChild<QToolBar*>();
+    QList<QAction*> actions = bar->actions();
+    actions.erase(std::remove_if(actions.begin(), actions.end(),
+                                 [](const QAction* action) { return !action->isCheckable(); }),
+                  actions.end());
+    QCOMPARE(actions.size(), 3);
+    QTest::mouseClick(bar->widgetForAction(actions[button]), Qt::LeftButton);
+    QCOMPARE(m_window->page(), page);
+    for (int i = 0; i < pages.size(); ++i) {
+        QCOMPARE(pages[i]->isVisible(), i == button);
+        QCOMPARE(actions[i]->isChecked(), i == button);
+        QVERIFY(actions[i]->toolTip().contains(QStringLiteral("Ctrl+%1").arg(i + 1)));
+        QVERIFY(!actions[i]->icon().isNull());
+    }
+    QVERIFY(pages[button]->hasFocus());
+    QCOMPARE(m_window->blockPanel()->isVisible(), button == 0);
+}
+
+void tst_HostWindow::blockIsShownOnTheMap()
+{
+    m_window->showPage(HostWindow::Page::Terrain);
+    openBlockOf(flownProject());
+    QCOMPARE(m_window->page(), HostWindow::Page::Map);
+    QVERIFY(m_window->blockPanel()->findChild<QTreeWidget*>()->isVisible());
+}
+
+void tst_HostWindow::toolsOpenOnTheirPages()
+{
+    const SurveyTools* tools = m_window->tools();
+    tool(*m_window, 0)->trigger();
+    QCOMPARE(m_window->page(), HostWindow::Page::Terrain);
+    QVERIFY(tools->earthwork() && tools->earthwork()->isVisible());
+    QVERIFY(m_window->frameGeometry().intersects(tools->earthwork()->frameGeometry()));
+    tool(*m_window, 1)->trigger();
+    QCOMPARE(m_window->page(), HostWindow::Page::Scene);
+    QVERIFY(tools->light() && tools->light()->isVisible());
+    QVERIFY2(tools->earthwork()->isVisible(), "one does not close the other");
+}
+
+void tst_HostWindow::shortcutsReachEverything()
+{
+    QApplication::setActiveWindow(m_window.get());
+    QTest::keyClick(m_window.get(), Qt::Key_2, Qt::ControlModifier);
+    QCOMPARE(m_window->page(), HostWindow::Page::Terrain);
+    QTest::keyClick(m_window.get(), Qt::Key_3, Qt::ControlModifier);
+    QCOMPARE(m_window->page(), HostWindow::Page::Scene);
+    QTest::keyClick(m_window.get(), Qt::Key_1, Qt::ControlModifier);
+    QCOMPARE(m_window->page(), HostWindow::Page::Map);
+    QTest::keyClick(m_window.get(), Qt::Key_E, Qt::ControlModifier);
+    QVERIFY(m_window->tools()->earthwork());
+    QApplication::setActiveWindow(m_window.get());
+    QTest::keyClick(m_window.get(), Qt::Key_L, Qt::ControlModifier);
+    QVERIFY(m_window->tools()->light());
+    for (const Qt::Key key : {Qt::Key_H, Qt::Key_D}) {
+        QApplication::setActiveWindow(m_window.get());
+        QString title;
+        const RunningTool running([&title](QDialog& dialog) {
+            title = dialog.windowTitle();
+            dialog.reject();
+        });
+        QTest::keyClick(m_window.get(), key, Qt::ControlModifier);
+        QCOMPARE(title,
+                 key == Qt::Key_H ? QStringLiteral("Vertical Hight Calculator")
+                                  : QStringLiteral("Coordinate Format"));
+    }
+}
+
+void tst_HostWindow::menuListsTheTools()
+{
+    QStringList texts;
+    for (int i = 0; i < 4; ++i)
+        texts.append(tool(*m_window, i)->text());
+    QCOMPARE(texts, QStringList({"Earthwork", "Light", "Antenna height", "Coordinates"}));
+    HostSettings::installLanguage(QStringLiteral("zh_CN"));
+    QTRY_COMPARE(tool(*m_window, 0)->text(), QString::fromUtf8("土方量计算"));
+}
+
+void tst_HostWindow::antennaHeightIsShown()
+{
+    auto* result = m_window->findChild<QLabel*>(QStringLiteral("result"));
+    QVERIFY(!result->isVisible());
+    {
+        const RunningTool running([](QDialog& dialog) {
+            field(dialog, "m_pEdtP_Value2").setText(QStringLiteral("0.0942"));
+            field(dialog, "m_pEdtG_Value2").setText(QStringLiteral("0.3"));
+            field(dialog, "m_pEdtL_Value2").setText(QStringLiteral("1"));
+            dialog.findChild<QPushButton*>(QStringLiteral("m_pBtnOK"))->click();
+        });
+        tool(*m_window, 2)->trigger();
+    }
+    QVERIFY(result->isVisible());
+    QCOMPARE(result->text(), QStringLiteral("Vertical height: 1.3857 m"));
+    HostSettings::installLanguage(QStringLiteral("zh_CN"));
+    QTRY_COMPARE(result->text(), QString::fromUtf8("天线垂高：1.3857 m"));
+}
+
+void tst_HostWindow::dismissedToolsShowNothing()
+{
+    for (const int number : {2, 3}) {
+        const RunningTool running([](QDialog& dialog) { dialog.reject(); });
+        tool(*m_window, number)->trigger();
+        QVERIFY(!m_window->findChild<QLabel*>(QStringLiteral("result"))->isVisible());
+        QVERIFY(m_window->tools()->result().isEmpty());
+    }
+}
+
+void tst_HostWindow::coordinatesAreShown_data()
+{
+    QTest::addColumn<bool>("isDms");
+    QTest::addColumn<QString>("latitude");
+    QTest::addColumn<QString>("longitude");
+    QTest::addColumn<QString>("expected");
+    QTest::newRow("decimal") << false << "39.5"
+                             << "116.391234"
+                             << "Coordinates: 39.50000° N  116.39123° E  =  "
+                                "39° 30′ 0″ N  116° 23′ 28.4424″ E";
+    QTest::newRow("degrees, minutes, seconds") << true << "39.5"
+                                               << "116.391234"
+                                               << "Coordinates: 39° 30′ 0″ N  116° 23′ 28.4424″ E";
+    QTest::newRow("south and west, below one degree") << true << "-39.5"
+                                                      << "-0.25"
+                                                      << "Coordinates: 39° 30′ 0″ S  0° 15′ 0″ W";
+}
+
+void tst_HostWindow::coordinatesAreShown()
+{
+    QFETCH(bool, isDms);
+    QFETCH(QString, latitude);
+    QFETCH(QString, longitude);
+    {
+        const RunningTool running([&](QDialog& dialog) {
+            if (isDms)
+                dialog.findChild<QRadioButton*>(QStringLiteral("m_pRdoDms"))->click();
+            field(dialog, "m_pEdtCoordLat").setText(latitude);
+            field(dialog, "m_pEdtCoordLng").setText(longitude);
+            dialog.findChild<QPushButton*>(QStringLiteral("m_pBtnOK"))->click();
+        });
+        tool(*m_window, 3)->trigger();
+    }
+    QTEST(m_window->findChild<QLabel*>(QStringLiteral("result"))->text(), "expected");
+}
+
+void tst_HostWindow::coordinatesBeginAtTheMiddleOfTheMap()
+{
+    openBlockOf(flownProject());
+    QTRY_VERIFY(!m_window->map()->isMoving());
+    const QPointF middle = MapProjection::toDegrees(m_window->map()->view().centre);
+    QString latitude;
+    QString longitude;
+    const RunningTool running([&](QDialog& dialog) {
+        latitude = field(dialog, "m_pEdtCoordLat").text();
+        longitude = field(dialog, "m_pEdtCoordLng").text();
+        dialog.reject();
+    });
+    tool(*m_window, 3)->trigger();
+    QVERIFY(std::abs(latitude.toDouble() - middle.x()) < 1e-8);
+    QVERIFY(std::abs(longitude.toDouble() - middle.y()) < 1e-8);
+}
+
+void tst_HostWindow::userBeingTypedCountsOnEveryPage()
+{
+    m_window->showPage(HostWindow::Page::Terrain);
+    QApplication::setActiveWindow(m_window.get());
+    typeUser(*m_window->findChild<UserBox*>(), QStringLiteral("nobody"));
+    QTest::mouseClick(m_window->findChild<QToolButton*>(QStringLiteral("openProjects")),
+                      Qt::LeftButton);
+    QCOMPARE(storedUser(), QStringLiteral("nobody"));
 }
 
 void tst_HostWindow::languageMenuSwitches()

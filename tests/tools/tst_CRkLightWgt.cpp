@@ -182,6 +182,7 @@ private slots:
     void initAnswersNothingNew();
     void directions_data();
     void directions();
+    void listTakesWhatIsSent();
     void originHasNoElevation();
     void coefficientsAreCut_data();
     void coefficientsAreCut();
@@ -559,6 +560,20 @@ void tst_CRkLightWgt::directions()
     QTEST(azimuth(dialog)->value(), "expectedAzimuth");
     QTEST(elevation(dialog)->value(), "expectedElevation");
     QTEST(QString::number(double(sent.angles.last().first), 'f', 4), "sent");
+}
+
+void tst_CRkLightWgt::listTakesWhatIsSent()
+{
+    CRkLightWgt dialog(nullptr);
+    QVariantList light = sample();
+    connect(&dialog, &CRkLightWgt::signalLightPara,
+            [&light](const QVariant& record) { light = record.toList(); });
+    dialog.InitWgt(light, "light");
+    CRkLightWgt other(nullptr);
+    other.InitWgt(sample(), "light");
+    QCOMPARE(sliderValues(dialog), sliderValues(other));
+    QCOMPARE(azimuth(dialog)->value(), azimuth(other)->value());
+    QCOMPARE(elevation(dialog)->value(), elevation(other)->value());
 }
 
 void tst_CRkLightWgt::originHasNoElevation()
