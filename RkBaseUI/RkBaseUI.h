@@ -25,6 +25,8 @@
 #include <RkBaseUI/CRkLightWgt.h>
 #include <RkBaseUI/CRkMenuButton.h>
 #include <RkBaseUI/CRkMessageBox.h>
+#include <RkBaseUI/CRkNoflyApplyUpload.h>
+#include <RkBaseUI/CRkNoflyApplyWgt.h>
 #include <RkBaseUI/CRkOpenedProjectInfo.h>
 #include <RkBaseUI/CRkParameterEditPage.h>
 #include <RkBaseUI/CRkProcessDialog.h>

@@ -7,16 +7,20 @@
 
 #include "Bench.h"
 
+#include <RkAlgorthm/ReferenceSettings.h>
 #include <RkAlgorthm/RkAlgorthm.h>
+#include <RkBaseUI/CRkNoflyApplyUpload.h>
+#include <RkBaseUI/CRkNoflyApplyWgt.h>
 #include <RkBaseUI/WebService.h>
 #include <RkProjectDbOperator/CRkUpLoadObject.h>
 
-#include <QCoreApplication>
+#include <QApplication>
 #include <QEventLoop>
 #include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLineEdit>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QThread>
@@ -192,24 +196,32 @@ void upload(const QByteArray& url, const QByteArray& body)
     thread.wait();
 }
 
-bool benchUpload(const QTemporaryDir& folder)
+void uploadInWindow(const QByteArray& application)
 {
-    QProcess service;
-    service.start(QCoreApplication::applicationDirPath() + "/rk-service",
-                  {"--store", folder.filePath("service.db")});
-    if (!service.waitForReadyRead())
+    CRkNoflyApplyUpload window(nullptr);
+    window.BeginUpload(application);
+    if (window.exec(true) != QDialog::Accepted)
         std::abort();
-    const QByteArray url = service.readLine().trimmed() + "/project/upload";
-    const QString file = folder.filePath("body");
-    const QByteArray body = "data={\"id\":\"" + QByteArray(documentBytes, 'x') + "\"}";
-    {
-        QFile bodyFile(file);
-        if (!bodyFile.open(QIODevice::WriteOnly) || bodyFile.write(body) != body.size())
-            std::abort();
-    }
+}
+
+QString write(const QString& file, const QByteArray& content)
+{
+    QFile output(file);
+    if (!output.open(QIODevice::WriteOnly) || output.write(content) != content.size())
+        std::abort();
+    return file;
+}
+
+/// Sends the body of a request with `send`, which holds the document, and with curl.
+template <typename Send>
+bool benchUpload(const char* name, const QByteArray& url, const QByteArray& body,
+                 const QTemporaryDir& folder, Send&& send)
+{
+    const QString file = write(folder.filePath("body"), body);
+    send(); // What the toolkit loads for its first window and its first request stays.
     peakMemory();
     const double before = peakMemory();
-    const double ours = bench::medianSeconds(runs, [&] { upload(url, body); });
+    const double ours = bench::medianSeconds(runs, send);
     const double growth = peakMemory() - before;
     const double floor = bench::medianSeconds(runs, [&] {
         if (QProcess::execute("curl",
@@ -218,29 +230,74 @@ bool benchUpload(const QTemporaryDir& folder)
             != 0)
             std::abort();
     });
-    service.closeWriteChannel();
-    service.waitForFinished();
-    const bool isQuick = bench::report("upload, against curl", body.size(), ours, floor, 1.3);
+    const bool isQuick = bench::report(name, body.size(), ours, floor, 1.3);
     // The document itself, which the caller holds, is the first of the three.
     const double ratio = 1 + growth / body.size();
     const bool isSmall = ratio <= 3;
-    std::printf("%-44s %9d %11.1f MB %11.1f MB %8.3f (<= 3) %s\n", "upload, memory in documents",
+    std::printf("%-44s %9d %11.1f MB %11.1f MB %8.3f (<= 3) %s\n", "  memory of it, in documents",
                 body.size(), ratio * body.size() / 1e6, body.size() / 1e6, ratio,
                 isSmall ? "ok" : "MISSED");
     return isQuick && isSmall;
+}
+
+/// Uploads the document of a project, and from its window an application of the same size.
+bool benchUploads(const QTemporaryDir& folder)
+{
+    QProcess service;
+    service.start(QCoreApplication::applicationDirPath() + "/rk-service",
+                  {"--store", folder.filePath("service.db")});
+    if (!service.waitForReadyRead())
+        std::abort();
+    const QByteArray address = service.readLine().trimmed();
+    SetServerIP(address);
+    SetCurUserInfo({"bench", {}, {}});
+
+    const QByteArray project = "data={\"id\":\"" + QByteArray(documentBytes, 'x') + "\"}";
+    const QByteArray projectUrl = address + "/project/upload";
+    bool met = benchUpload("upload of a project, against curl", projectUrl, project, folder,
+                           [&] { upload(projectUrl, project); });
+
+    const QString permit =
+        write(folder.filePath("permit.pdf"), QByteArray(documentBytes / 4 * 3, '\xa5'));
+    const CRkNoflyApplyWgt form({}, {}, nullptr);
+    form.findChild<QLineEdit*>("m_pEdtDocPath")->setText(permit);
+    const QByteArray application = form.ComboUploadData();
+    met = benchUpload("upload of an application, against curl", address + "/noflyzone/uploadLift",
+                      "data=" + application, folder, [&] { uploadInWindow(application); })
+        && met;
+    service.closeWriteChannel();
+    service.waitForFinished();
+    return met;
+}
+
+/// Against reading the file and its Base64 alone.
+bool benchApplication(const QTemporaryDir& folder)
+{
+    const QString permit = write(folder.filePath("permit.pdf"), QByteArray(documentBytes, '\xa5'));
+    const CRkNoflyApplyWgt form({}, {}, nullptr);
+    form.findChild<QLineEdit*>("m_pEdtDocPath")->setText(permit);
+    const double ours = bench::medianSeconds(runs, [&] { form.ComboUploadData(); });
+    const double floor = bench::medianSeconds(runs, [&] {
+        QFile file(permit);
+        if (!file.open(QIODevice::ReadOnly) || file.readAll().toBase64().isEmpty())
+            std::abort();
+    });
+    return bench::report("application from a file, against its Base64", documentBytes, ours, floor,
+                         3);
 }
 
 } // namespace
 
 int main(int argc, char* argv[])
 {
-    const QCoreApplication application(argc, argv);
+    const QApplication application(argc, argv);
     const QTemporaryDir folder;
     bool met = benchDocument("upload document, 20 tasks a block, indexed",
                              makeProject(folder.filePath("indexed.proj"), true));
     met = benchDocument("upload document, 20 tasks a block, no index",
                         makeProject(folder.filePath("plain.proj"), false))
         && met;
-    met = benchUpload(folder) && met;
+    met = benchApplication(folder) && met;
+    met = benchUploads(folder) && met;
     return met ? 0 : 1;
 }

@@ -411,6 +411,122 @@
     </message>
 </context>
 <context>
+    <name>CRkNoflyApplyUpload</name>
+    <message>
+        <source>UpLoad Apply File</source>
+        <translation>上传申请文件</translation>
+    </message>
+    <message>
+        <source>UpLoading ......</source>
+        <translation>正在上传……</translation>
+    </message>
+    <message>
+        <source>UpLoad File Finished.</source>
+        <translation>文件上传完成。</translation>
+    </message>
+    <message>
+        <source>OK</source>
+        <translation>确定</translation>
+    </message>
+    <message>
+        <source>UpLoad File Failed.</source>
+        <translation>文件上传失败。</translation>
+    </message>
+    <message>
+        <source>No Login!</source>
+        <translation>尚未登录！</translation>
+    </message>
+    <message>
+        <source>Retry...</source>
+        <translation>正在重试……</translation>
+    </message>
+</context>
+<context>
+    <name>CRkNoflyApplyWgt</name>
+    <message>
+        <source>Authorization document:</source>
+        <translation>空域批文：</translation>
+    </message>
+    <message>
+        <source>Choose the authorization document</source>
+        <translation>选择空域批文</translation>
+    </message>
+    <message>
+        <source>Authorization Name:</source>
+        <translation>申请人：</translation>
+    </message>
+    <message>
+        <source>Contact mobile phone:</source>
+        <translation>联系手机：</translation>
+    </message>
+    <message>
+        <source>Company:</source>
+        <translation>申请单位：</translation>
+    </message>
+    <message>
+        <source>Start time:</source>
+        <translation>开始时间：</translation>
+    </message>
+    <message>
+        <source>End time:</source>
+        <translation>结束时间：</translation>
+    </message>
+    <message>
+        <source>Screen shots：</source>
+        <translation>测区截图：</translation>
+    </message>
+    <message>
+        <source>Screen shot of the map</source>
+        <translation>地图截图</translation>
+    </message>
+    <message>
+        <source>Area coordinate:</source>
+        <translation>测区坐标：</translation>
+    </message>
+    <message>
+        <source>Longitude</source>
+        <translation>经度</translation>
+    </message>
+    <message>
+        <source>Latitude</source>
+        <translation>纬度</translation>
+    </message>
+    <message>
+        <source>Altitude</source>
+        <translation>高度</translation>
+    </message>
+    <message>
+        <source>Apply for 
+instructions:</source>
+        <translation>申请
+说明：</translation>
+    </message>
+    <message>
+        <source>Application Information</source>
+        <translation>禁飞区解禁申请</translation>
+    </message>
+    <message>
+        <source>Please select the application document.</source>
+        <translation>请选择空域批文。</translation>
+    </message>
+    <message>
+        <source>Please input the Authorization Name.</source>
+        <translation>请输入申请人姓名。</translation>
+    </message>
+    <message>
+        <source>Please input the invalid date time.</source>
+        <translation>请输入有效的起止时间。</translation>
+    </message>
+    <message>
+        <source>Apply file</source>
+        <translation>选择申请文件</translation>
+    </message>
+    <message>
+        <source>doc file(*.doc *.docx);;pdf file(*.pdf);;image file(*.jpg *.png *.bmp *.jpeg)</source>
+        <translation>Word 文档(*.doc *.docx);;PDF 文件(*.pdf);;图片(*.jpg *.png *.bmp *.jpeg)</translation>
+    </message>
+</context>
+<context>
     <name>CRkParameterEditPage</name>
     <message>
         <source>Parameter 1</source>

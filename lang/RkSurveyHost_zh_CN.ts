@@ -282,6 +282,18 @@
         <source>without tools</source>
         <translation>无工具</translation>
     </message>
+    <message>
+        <source>Wang Lin</source>
+        <translation>王琳</translation>
+    </message>
+    <message>
+        <source>Eastern River Survey Institute</source>
+        <translation>东江测绘院</translation>
+    </message>
+    <message>
+        <source>Survey of the embankment after the flood. Flights by daylight only, below 120 m above the ground, in agreement with the tower.</source>
+        <translation>汛后堤防测绘。仅在昼间飞行，真高 120 米以下，并与塔台保持协调。</translation>
+    </message>
 </context>
 <context>
     <name>HostWindow</name>

@@ -69,6 +69,6 @@ QVector<Gallery::Entry> galleryWindows()
         {QStringLiteral("view-city"), viewPage, filterByCity},
     };
     return pages + galleryHost() + gallerySurvey() + galleryProjects() + galleryCity() + galleryDates()
-        + galleryBlocks() + galleryCalculators() + galleryTools() + galleryLight()
+        + galleryBlocks() + galleryCalculators() + galleryTools() + galleryLight() + galleryNoFly()
         + galleryDialogs() + galleryControls() + galleryPictures() + galleryMessages();
 }

@@ -48,3 +48,6 @@ QVector<Gallery::Entry> galleryCalculators();
 
 /// Of these, all pictures of the library on both grounds on which they are shown.
 QVector<Gallery::Entry> galleryPictures();
+
+/// Of these, the application for lifting a no-fly zone and its upload.
+QVector<Gallery::Entry> galleryNoFly();

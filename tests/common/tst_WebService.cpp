@@ -2,13 +2,13 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
 #include "service/WebServiceServer.h"
+#include "support/ProcessCounts.h"
 #include "support/RawServer.h"
 
 #include <RkAlgorthm/ReferenceSettings.h>
 #include <RkAlgorthm/RkAlgorthm.h>
 #include <RkBaseUI/WebService.h>
 
-#include <QDir>
 #include <QElapsedTimer>
 #include <QTemporaryDir>
 #include <QtTest>
@@ -60,19 +60,6 @@ private:
     qint64 m_largestGap = 0;
     int m_beats = 0;
 };
-
-/// The open files of this process; 0 where the system does not tell.
-int openFiles()
-{
-    return QDir("/proc/self/fd")
-        .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System)
-        .size();
-}
-
-int threads()
-{
-    return QDir("/proc/self/task").entryList(QDir::NoDotAndDotDot | QDir::Dirs).size();
-}
 
 bool findsCentre()
 {
@@ -495,8 +482,8 @@ void tst_WebService::nothingIsLeftBehind()
 {
     RawServer server;
     SetServerIP(server.address());
-    const int filesBefore = openFiles();
-    const int threadsBefore = threads();
+    const int filesBefore = ProcessCounts::files();
+    const int threadsBefore = ProcessCounts::threads();
     const QVector<QByteArray> answers = {httpAnswer(200, centreReply), httpAnswer(500, ""),
                                          QByteArray(), httpAnswer(200, "{", 100)};
     for (int i = 0; i < 100; ++i) {
@@ -505,8 +492,8 @@ void tst_WebService::nothingIsLeftBehind()
     }
     QTRY_COMPARE(server.openConnections(), 0);
     // Fewer when something of an earlier call was still on its way out.
-    QTRY_VERIFY(openFiles() <= filesBefore);
-    QTRY_VERIFY(threads() <= threadsBefore);
+    QTRY_VERIFY(ProcessCounts::files() <= filesBefore);
+    QTRY_VERIFY(ProcessCounts::threads() <= threadsBefore);
 }
 
 QTEST_GUILESS_MAIN(tst_WebService)

@@ -216,7 +216,10 @@ void tst_Gallery::programShowsEveryWindow()
           "filter-bar-date", "block-page", "block-page-searched", "block-page-sorted",
           "block-page-disabled", "block-page-empty", "base-dialog", "base-dialog-ok-hover",
           "base-widget", "height-filled", "height-refused", "coordinates-filled",
-          "coordinates-refused", "earthwork-empty", "earthwork-custom", "earthwork-computed"})
+          "coordinates-refused", "earthwork-empty", "earthwork-custom", "earthwork-computed", "nofly",
+          "nofly-empty", "nofly-no-document", "nofly-no-name", "nofly-no-duration",
+          "nofly-upload-start", "nofly-upload", "nofly-upload-failed", "nofly-upload-retry",
+          "nofly-upload-no-login", "nofly-upload-finished"})
         QVERIFY2(run.files.contains(file(QLatin1String(name), language, scale)), name);
     QSet<QByteArray> contents;
     for (const QString& path : run.files) {

@@ -3,12 +3,12 @@
 
 #include "service/WebServiceServer.h"
 #include "ServiceRequests.h"
+#include "support/ProcessCounts.h"
 #include "support/TestSupport.h"
 
 #include <RkProjectDbOperator/CRkUpLoadObject.h>
 #include <RkProjectDbOperator/ReferenceSettings.h>
 
-#include <QDir>
 #include <QProcess>
 #include <QTemporaryDir>
 #include <QThread>
@@ -78,11 +78,6 @@ public:
     QByteArray reply;
     bool isSent = false; ///< the whole body is with the system
 };
-
-int entries(const QString& folder)
-{
-    return QDir(folder).entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System).size();
-}
 
 } // namespace
 
@@ -352,8 +347,8 @@ void tst_ServiceUploads::fiftyRetriesLeaveNothing()
         first.post();
         QTRY_VERIFY(first.isSent);
     }
-    const int filesBefore = entries("/proc/self/fd");
-    const int threadsBefore = entries("/proc/self/task");
+    const int filesBefore = ProcessCounts::files();
+    const int threadsBefore = ProcessCounts::threads();
     for (int i = 0; i < 50; ++i) {
         Upload upload(address);
         upload.post();
@@ -364,8 +359,8 @@ void tst_ServiceUploads::fiftyRetriesLeaveNothing()
         QCOMPARE(upload.outcomes.size(), 1);
     }
     // Fewer when something of the first upload was still on its way out.
-    QTRY_VERIFY(entries("/proc/self/fd") <= filesBefore);
-    QTRY_VERIFY(entries("/proc/self/task") <= threadsBefore);
+    QTRY_VERIFY(ProcessCounts::files() <= filesBefore);
+    QTRY_VERIFY(ProcessCounts::threads() <= threadsBefore);
     program.closeWriteChannel();
     QVERIFY(program.waitForFinished());
     QCOMPARE(program.exitCode(), 0);

@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The RkBaseUI developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
+#include "support/PostServer.h"
+
 #include <RkProjectDbOperator/CRkUpLoadObject.h>
 #include <RkProjectDbOperator/ReferenceSettings.h>
 
-#include <QTcpServer>
-#include <QTcpSocket>
 #include <QThread>
 #include <QtTest>
 
@@ -20,73 +20,6 @@ void collectMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, c
 {
     messages.append(text);
 }
-
-struct Request
-{
-    QByteArray head; ///< request line and headers
-    QByteArray body;
-};
-
-/// A web service on 127.0.0.1 that gives every request one answer.
-class Service : public QObject
-{
-public:
-    enum Behaviour { Answers, KeepsSilent, HangsUp, StopsReading };
-
-    Service()
-    {
-        m_server.listen(QHostAddress::LocalHost);
-        connect(&m_server, &QTcpServer::newConnection, this, &Service::accept);
-    }
-
-    QByteArray url(const QByteArray& path = "/upload") const
-    {
-        return "http://127.0.0.1:" + QByteArray::number(m_server.serverPort()) + path;
-    }
-
-    Behaviour behaviour = Answers;
-    QByteArray answer = "HTTP/1.1 200 OK\r\nContent-Length: 2\r\n\r\nok";
-    QVector<Request> requests;
-    int connections = 0;
-
-private:
-    void accept()
-    {
-        while (QTcpSocket* socket = m_server.nextPendingConnection()) {
-            ++connections;
-            if (behaviour == StopsReading) {
-                socket->setReadBufferSize(1);
-                continue;
-            }
-            auto received = std::make_shared<QByteArray>();
-            connect(socket, &QTcpSocket::readyRead, this, [this, socket, received] {
-                received->append(socket->readAll());
-                takeRequest(socket, *received);
-            });
-            connect(socket, &QTcpSocket::disconnected, socket, &QObject::deleteLater);
-        }
-    }
-
-    void takeRequest(QTcpSocket* socket, QByteArray& received)
-    {
-        const int headEnd = received.indexOf("\r\n\r\n");
-        if (headEnd < 0)
-            return;
-        const QByteArray head = received.left(headEnd);
-        const int lengthAt = head.toLower().indexOf("content-length: ");
-        const int length = lengthAt < 0 ? 0 : head.mid(lengthAt + 16).split('\r').first().toInt();
-        if (received.size() < headEnd + 4 + length)
-            return;
-        requests.append({head, received.mid(headEnd + 4, length)});
-        received.remove(0, headEnd + 4 + length);
-        if (behaviour == Answers)
-            socket->write(answer);
-        else if (behaviour == HangsUp)
-            socket->disconnectFromHost();
-    }
-
-    QTcpServer m_server;
-};
 
 /// An upload object on a thread of its own, and what it has signalled, as the GUI thread sees it.
 class Upload : public QObject
@@ -202,7 +135,7 @@ void tst_CRkUpLoadObject::cleanup()
 
 void tst_CRkUpLoadObject::sendsThePost()
 {
-    Service service;
+    PostServer service;
     service.answer =
         QByteArray("HTTP/1.1 200 OK\r\nContent-Length: 5\r\n\r\n") + QByteArray("a\0b&c", 5);
     QByteArray body("data={\"a\":\"x&y=%41+\xe9\xa1\xb9\"}\r\n");
@@ -216,7 +149,7 @@ void tst_CRkUpLoadObject::sendsThePost()
     QCOMPARE(upload.replies.first(), QByteArray("a\0b&c", 5));
 
     QCOMPARE(service.requests.size(), 1);
-    const Request& request = service.requests.first();
+    const PostServer::Request& request = service.requests.first();
     QCOMPARE(request.body, body);
     const QList<QByteArray> lines = request.head.split('\n');
     QCOMPARE(lines.first().trimmed(), QByteArray("POST /noflyzone/uploadLift HTTP/1.1"));
@@ -228,7 +161,7 @@ void tst_CRkUpLoadObject::sendsThePost()
 
 void tst_CRkUpLoadObject::contentTypeCanBeSet()
 {
-    Service service;
+    PostServer service;
     Upload upload;
     upload.object->setRawHeader("Content-Type", "application/json");
     upload.post(service.url(), "{}");
@@ -265,7 +198,7 @@ void tst_CRkUpLoadObject::outcomeFollowsTheStatus()
 {
     QFETCH(QByteArray, answer);
     QFETCH(QString, outcome);
-    Service service;
+    PostServer service;
     service.answer = answer;
     Upload upload;
     upload.post(service.url(), "data=x");
@@ -297,7 +230,7 @@ void tst_CRkUpLoadObject::failures()
 
 void tst_CRkUpLoadObject::serviceThatIsNotThere()
 {
-    const QByteArray url = Service().url(); // Its port is free again.
+    const QByteArray url = PostServer().url(); // Its port is free again.
     Upload upload;
     upload.post(url, "data=x");
     QTRY_COMPARE(upload.outcomes, QStringList("error"));
@@ -305,8 +238,8 @@ void tst_CRkUpLoadObject::serviceThatIsNotThere()
 
 void tst_CRkUpLoadObject::serviceThatHangsUp()
 {
-    Service service;
-    service.behaviour = Service::HangsUp;
+    PostServer service;
+    service.behaviour = PostServer::HangsUp;
     Upload upload;
     upload.post(service.url(), "data=x");
     QTRY_VERIFY(!upload.outcomes.isEmpty());
@@ -316,7 +249,7 @@ void tst_CRkUpLoadObject::serviceThatHangsUp()
 
 void tst_CRkUpLoadObject::serviceThatSpeaksNoHttp()
 {
-    Service service;
+    PostServer service;
     service.answer = "hello\r\n\r\n";
     Upload upload;
     upload.post(service.url(), "data=x");
@@ -328,8 +261,8 @@ void tst_CRkUpLoadObject::serviceThatSpeaksNoHttp()
 void tst_CRkUpLoadObject::serviceThatStandsStill()
 {
     SetUploadTimeout(50);
-    Service service;
-    service.behaviour = Service::KeepsSilent;
+    PostServer service;
+    service.behaviour = PostServer::KeepsSilent;
     Upload upload;
     upload.post(service.url(), "data=x");
     QTRY_COMPARE(upload.outcomes, QStringList("error"));
@@ -348,7 +281,7 @@ void tst_CRkUpLoadObject::withoutLimitOfTime()
 {
     QFETCH(int, milliseconds);
     SetUploadTimeout(milliseconds);
-    Service service;
+    PostServer service;
     Upload upload;
     upload.post(service.url(), "data=x");
     QTRY_COMPARE(upload.outcomes, QStringList("finished"));
@@ -356,7 +289,7 @@ void tst_CRkUpLoadObject::withoutLimitOfTime()
 
 void tst_CRkUpLoadObject::signalsComeFromTheObjectsThread()
 {
-    Service service;
+    PostServer service;
     Upload upload;
     std::atomic<QThread*> sender{nullptr};
     connect(
@@ -378,7 +311,7 @@ void tst_CRkUpLoadObject::nothingIsSignalledDuringTheCall()
 
 void tst_CRkUpLoadObject::worksWithoutAThread()
 {
-    Service service;
+    PostServer service;
     CRkUpLoadObject object;
     QSignalSpy finished(&object, &CRkUpLoadObject::upLoadFinished);
     object.SetUrl(service.url());
@@ -390,7 +323,7 @@ void tst_CRkUpLoadObject::worksWithoutAThread()
 
 void tst_CRkUpLoadObject::everyPostHasItsOwnOutcome()
 {
-    Service service;
+    PostServer service;
     Upload upload;
     for (int i = 0; i < 10; ++i)
         upload.post(service.url("/" + QByteArray::number(i)), "data=" + QByteArray::number(i));
@@ -398,14 +331,14 @@ void tst_CRkUpLoadObject::everyPostHasItsOwnOutcome()
     upload.settle();
     QCOMPARE(upload.outcomes.count("finished"), 10);
     QCOMPARE(service.requests.size(), 10);
-    for (const Request& request : qAsConst(service.requests))
+    for (const PostServer::Request& request : qAsConst(service.requests))
         QVERIFY(request.head.startsWith("POST /" + request.body.mid(5)
                                         + " ")); // Address and body of one call.
 }
 
 void tst_CRkUpLoadObject::postBeforeTheThreadStarts()
 {
-    Service service;
+    PostServer service;
     Upload upload(false);
     upload.post(service.url(), "data=x");
     QCoreApplication::processEvents();
@@ -416,7 +349,7 @@ void tst_CRkUpLoadObject::postBeforeTheThreadStarts()
 
 void tst_CRkUpLoadObject::progressReachesTheEnd()
 {
-    Service service;
+    PostServer service;
     const QByteArray body(3 * 1024 * 1024, 'x');
     Upload upload;
     upload.post(service.url(), body);
@@ -427,8 +360,8 @@ void tst_CRkUpLoadObject::progressReachesTheEnd()
 
 void tst_CRkUpLoadObject::stoppingTheThreadFailsThePost()
 {
-    Service service;
-    service.behaviour = Service::KeepsSilent;
+    PostServer service;
+    service.behaviour = PostServer::KeepsSilent;
     Upload upload;
     upload.post(service.url(), "data=x");
     QTRY_COMPARE(service.requests.size(), 1);
@@ -436,7 +369,7 @@ void tst_CRkUpLoadObject::stoppingTheThreadFailsThePost()
     QTRY_COMPARE(upload.outcomes, QStringList("error"));
 
     // Started again the thread serves the object again.
-    service.behaviour = Service::Answers;
+    service.behaviour = PostServer::Answers;
     upload.thread.start();
     upload.post(service.url(), "data=y");
     QTRY_COMPARE(upload.outcomes, QStringList({"error", "finished"}));
@@ -445,18 +378,18 @@ void tst_CRkUpLoadObject::stoppingTheThreadFailsThePost()
 void tst_CRkUpLoadObject::deletedWithAPostUnderWay_data()
 {
     QTest::addColumn<int>("behaviour");
-    QTest::newRow("answer awaited") << int(Service::KeepsSilent);
-    QTest::newRow("body half sent") << int(Service::StopsReading);
+    QTest::newRow("answer awaited") << int(PostServer::KeepsSilent);
+    QTest::newRow("body half sent") << int(PostServer::StopsReading);
 }
 
 void tst_CRkUpLoadObject::deletedWithAPostUnderWay()
 {
     QFETCH(int, behaviour);
-    Service service;
-    service.behaviour = Service::Behaviour(behaviour);
+    PostServer service;
+    service.behaviour = PostServer::Behaviour(behaviour);
     Upload upload;
     upload.post(service.url(), QByteArray(32 * 1024 * 1024, 'x'));
-    if (service.behaviour == Service::KeepsSilent)
+    if (service.behaviour == PostServer::KeepsSilent)
         QTRY_COMPARE(service.requests.size(), 1);
     else
         QTRY_COMPARE(service.connections, 1);
@@ -468,7 +401,7 @@ void tst_CRkUpLoadObject::deletedWithAPostUnderWay()
 
 void tst_CRkUpLoadObject::deletedBeforeThePostBegan()
 {
-    Service service;
+    PostServer service;
     Upload upload(false);
     upload.post(service.url(), "data=x");
     upload.object.reset();
@@ -481,8 +414,8 @@ void tst_CRkUpLoadObject::deletedBeforeThePostBegan()
 
 void tst_CRkUpLoadObject::newObjectOnTheSameThread()
 {
-    Service service;
-    service.behaviour = Service::HangsUp;
+    PostServer service;
+    service.behaviour = PostServer::HangsUp;
     Upload upload;
     upload.post(service.url(), "data=x");
     QTRY_COMPARE(upload.outcomes, QStringList("error"));
@@ -492,7 +425,7 @@ void tst_CRkUpLoadObject::newObjectOnTheSameThread()
     int answers = 0;
     connect(upload.object.get(), &CRkUpLoadObject::upLoadFinished, this, [&answers] { ++answers; });
     upload.object->moveToThread(&upload.thread);
-    service.behaviour = Service::Answers;
+    service.behaviour = PostServer::Answers;
     upload.thread.start();
     upload.post(service.url(), "data=x");
     QTRY_COMPARE(answers, 1);
