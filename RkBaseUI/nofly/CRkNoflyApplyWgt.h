@@ -7,6 +7,7 @@
 
 #include <QImage>
 #include <QStringList>
+#include <QVector>
 
 #include <memory>
 
@@ -36,7 +37,7 @@ public:
 
     /// The filled form as compact JSON for the web service, document and picture in Base64. Empty
     /// without a document path; a document that cannot be read, or has more than 1.5 GB, goes as an
-    /// empty one. Holds the document about three times in memory while it works.
+    /// empty one. Takes some 2.4 times the document's memory while it works.
     QByteArray ComboUploadData() const;
 
     /// The picture of the map, shown in the form and sent whole. A null image takes it away.

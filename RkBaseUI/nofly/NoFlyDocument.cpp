@@ -6,6 +6,9 @@
 #include <QBuffer>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocale>
+
+#include <algorithm>
 
 namespace NoFlyDocument {
 
@@ -16,9 +19,10 @@ QString degrees(double value)
     return QString::number(value, 'f', 6);
 }
 
+/// With the digits 0 to 9 wherever the user lives, unlike QDateTime::toString.
 QString timeText(const QDateTime& time)
 {
-    return time.toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+    return QLocale::c().toString(time, QStringLiteral("yyyy-MM-dd hh:mm:ss"));
 }
 
 /// Empty when there is no picture.
@@ -30,13 +34,24 @@ QString pngText(const QImage& picture)
     return QString::fromLatin1(png.data().toBase64());
 }
 
-/// Fills the empty text of a key in compact JSON with Base64. A large document would otherwise be
-/// in memory several times more, as text and as JSON.
-void fillIn(QByteArray& json, const QByteArray& key, const QByteArray& base64)
+/// Compact JSON with the Base64 of the bytes for the empty text of a key. A large document would
+/// otherwise be in memory several times more, as Base64, as text and as JSON.
+QByteArray filledIn(const QByteArray& json, const QByteArray& key, const QByteArray& bytes)
 {
     // Quotes inside texts are escaped, so this is the key and nothing in a text.
     const QByteArray empty = '"' + key + "\":\"\"";
-    json.insert(json.indexOf(empty) + empty.size() - 1, base64);
+    const int textAt = json.indexOf(empty) + empty.size() - 1;
+    constexpr int step = 3 << 16; // Pieces of whole groups, which need no padding between them.
+
+    QByteArray filled;
+    filled.reserve(json.size() + (bytes.size() + 2) / 3 * 4);
+    filled.append(json.constData(), textAt);
+    for (int at = 0; at < bytes.size(); at += step) {
+        const int size = std::min(step, bytes.size() - at);
+        filled.append(QByteArray::fromRawData(bytes.constData() + at, size).toBase64());
+    }
+    filled.append(json.constData() + textAt, json.size() - textAt);
+    return filled;
 }
 
 } // namespace
@@ -81,9 +96,8 @@ QByteArray json(const Application& application)
         {QStringLiteral("strCompany"), application.company},
         {QStringLiteral("explain"), application.explanation},
     };
-    QByteArray text = QJsonDocument(object).toJson(QJsonDocument::Compact);
-    fillIn(text, "data", application.document.toBase64());
-    return text;
+    return filledIn(QJsonDocument(object).toJson(QJsonDocument::Compact), "data",
+                    application.document);
 }
 
 QByteArray requestBody(const QByteArray& json)

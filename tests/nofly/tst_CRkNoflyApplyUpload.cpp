@@ -19,6 +19,8 @@
 #include <QSignalSpy>
 #include <QTest>
 
+#include <array>
+
 namespace {
 
 const QString failed = QStringLiteral("UpLoad File Failed.");
@@ -62,6 +64,12 @@ QByteArray answerOf(int status)
 {
     return "HTTP/1.1 " + QByteArray::number(status) + " Text\r\nContent-Length: 4\r\n\r\nbody";
 }
+
+/// Every state that `inState` knows.
+constexpr std::array<const char*, 9> states = {
+    "fresh",  "begun",         "body half sent", "answer awaited",  "finished",
+    "failed", "not logged in", "retry begun",    "retry under way",
+};
 
 /// Lets everything arrive that is already on its way between the threads of this process.
 void settle()
@@ -115,15 +123,14 @@ private slots:
     void fiftyRetries_data();
     void fiftyRetries();
 
-    void closedInEveryState_data() { addStates(); }
+    void closedInEveryState_data();
     void closedInEveryState();
-    void destroyedInEveryState_data() { addStates(); }
+    void destroyedInEveryState_data();
     void destroyedInEveryState();
     void answerAfterClosingAccepts();
     void deletesItselfOnClose();
 
 private:
-    static void addStates();
     /// A window that has come into the state of the current row.
     std::unique_ptr<CRkNoflyApplyUpload> inState(const QString& state);
     int threadsOfUploads() const { return ProcessCounts::threads() - m_threads; }
@@ -546,14 +553,6 @@ void tst_CRkNoflyApplyUpload::fiftyRetries()
     QTRY_VERIFY(threadsOfUploads() <= 0);
 }
 
-void tst_CRkNoflyApplyUpload::addStates()
-{
-    QTest::addColumn<QString>("state");
-    for (const char* state : {"fresh", "begun", "body half sent", "answer awaited", "finished",
-                              "failed", "not logged in", "retry begun", "retry under way"})
-        QTest::newRow(state) << state;
-}
-
 std::unique_ptr<CRkNoflyApplyUpload> tst_CRkNoflyApplyUpload::inState(const QString& state)
 {
     auto window = std::make_unique<CRkNoflyApplyUpload>(nullptr);
@@ -593,17 +592,40 @@ std::unique_ptr<CRkNoflyApplyUpload> tst_CRkNoflyApplyUpload::inState(const QStr
     return window;
 }
 
+void tst_CRkNoflyApplyUpload::closedInEveryState_data()
+{
+    QTest::addColumn<QString>("state");
+    QTest::addColumn<QString>("way");
+    for (const char* state : states) {
+        for (const char* way : {"Cancel", "Escape", "by the window system"})
+            QTest::addRow("%s, %s", state, way) << state << way;
+    }
+}
+
 /// The window goes, and what is under way may go on behind it until the window is destroyed.
 void tst_CRkNoflyApplyUpload::closedInEveryState()
 {
     QFETCH(QString, state);
+    QFETCH(QString, way);
     const auto window = inState(state);
     QVERIFY(window);
-    cancelButton(*window)->click();
+    QCOMPARE(window->isVisible(), state != "finished");
+    window->show();
+    if (way == "Cancel")
+        cancelButton(*window)->click();
+    else if (way == "Escape")
+        QTest::keyClick(window.get(), Qt::Key_Escape);
+    else
+        QVERIFY(window->close());
     QVERIFY(!window->isVisible());
     QCOMPARE(window->result(), int(QDialog::Rejected));
-    window->close();
-    QVERIFY(!window->isVisible());
+}
+
+void tst_CRkNoflyApplyUpload::destroyedInEveryState_data()
+{
+    QTest::addColumn<QString>("state");
+    for (const char* state : states)
+        QTest::newRow(state) << state;
 }
 
 void tst_CRkNoflyApplyUpload::destroyedInEveryState()

@@ -703,7 +703,7 @@ void tst_CRkNoflyApplyWgt::unreadableDocuments_data()
     QTest::addColumn<QString>("name");
     QTest::newRow("missing") << "missing.pdf";
     QTest::newRow("a folder") << "folder.pdf";
-    QTest::newRow("a folder in a missing folder") << "missing/permit.pdf";
+    QTest::newRow("a file in a missing folder") << "missing/permit.pdf";
     QTest::newRow("a pipe that nobody writes to") << "pipe.pdf";
     QTest::newRow("larger than memory can take") << "huge.pdf";
 }

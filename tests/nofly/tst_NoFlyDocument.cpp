@@ -5,6 +5,8 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocale>
+#include <QProcess>
 #include <QTest>
 
 #include <limits>
@@ -63,6 +65,7 @@ private slots:
     void earlier_data();
     void earlier();
     void values();
+    void timesInEveryLocale();
     void keysWithoutAnything();
     void fileName_data();
     void fileName();
@@ -71,7 +74,8 @@ private slots:
     void picture();
     void compactAsTheToolkitWritesIt_data();
     void compactAsTheToolkitWritesIt();
-    void largeDocument();
+    void documentsOfEveryLength_data();
+    void documentsOfEveryLength();
     void bodyIsNotEncoded();
 
 private:
@@ -170,6 +174,29 @@ void tst_NoFlyDocument::values()
         {"explain", "for the dam"},
     };
     QCOMPARE(objectOf(sound()), expected);
+}
+
+/// Here, and in a process whose system writes other digits, which is fixed when it starts.
+void tst_NoFlyDocument::timesInEveryLocale()
+{
+    const QJsonObject object = objectOf(sound());
+    QCOMPARE(object.value("beginat"), QJsonValue("2026-05-01 08:05:09"));
+    QCOMPARE(object.value("expiredat"), QJsonValue("2026-12-31 18:00:00"));
+
+    const QString mark = QStringLiteral("RK_TEST_INNER");
+    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    if (environment.contains(mark)) {
+        QVERIFY(QLocale::system().toString(1) != "1");
+        return;
+    }
+    environment.insert(mark, QStringLiteral("1"));
+    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("ar_EG.UTF-8"));
+    QProcess inner;
+    inner.setProcessEnvironment(environment);
+    inner.start(QCoreApplication::applicationFilePath(), {QTest::currentTestFunction()});
+    const bool passed = inner.waitForFinished() && inner.exitStatus() == QProcess::NormalExit
+        && inner.exitCode() == 0;
+    QVERIFY2(passed, inner.readAllStandardOutput().constData());
 }
 
 /// All keys are there, with texts.
@@ -274,12 +301,23 @@ void tst_NoFlyDocument::compactAsTheToolkitWritesIt()
     QCOMPARE(json, QJsonDocument(object).toJson(QJsonDocument::Compact));
 }
 
-void tst_NoFlyDocument::largeDocument()
+void tst_NoFlyDocument::documentsOfEveryLength_data()
 {
+    QTest::addColumn<int>("size");
+    for (int size : {0, 1, 2, 3, 4, 65536, 196607, 196608, 196609, 393216, 393218, 20'000'000})
+        QTest::addRow("%d bytes", size) << size;
+}
+
+/// The Base64 is made in pieces, and is the same as in one.
+void tst_NoFlyDocument::documentsOfEveryLength()
+{
+    QFETCH(int, size);
     Application application = sound();
-    application.document = QByteArray(20'000'000, '\xa5');
+    application.document = QByteArray(size, Qt::Uninitialized);
+    for (int i = 0; i < size; ++i)
+        application.document[i] = char(i % 251 + i / 65536);
     const QByteArray data = objectOf(application).value("data").toString().toLatin1();
-    QVERIFY(QByteArray::fromBase64(data) == application.document);
+    QVERIFY(data == application.document.toBase64());
 }
 
 void tst_NoFlyDocument::bodyIsNotEncoded()
