@@ -9,6 +9,7 @@
 #include <RkAlgorthm/RkAlgorthm.h>
 
 #include <QCloseEvent>
+#include <QLocale>
 #include <QRegExpValidator>
 #include <QTextCharFormat>
 
@@ -111,7 +112,7 @@ void CRkDateSelectWidget::slotButtonDateRangeOkClicked()
 void CRkDateSelectWidget::slotCalenderClicked(const QDate& date)
 {
     if (m_activeEdit)
-        m_activeEdit->setText(date.toString(DateFormat));
+        m_activeEdit->setText(QLocale::c().toString(date, DateFormat));
 }
 
 void CRkDateSelectWidget::closeEvent(QCloseEvent* event)

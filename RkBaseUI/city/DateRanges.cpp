@@ -5,11 +5,13 @@
 
 #include <RkAlgorthm/RkAlgorthm.h>
 
+#include <QLocale>
+
 namespace DateRanges {
 
 QString daysAgo(const QDateTime& now, int days)
 {
-    return now.addDays(-days).toString(DateFormat);
+    return QLocale::c().toString(now.addDays(-days), DateFormat);
 }
 
 Range lastDays(const QDateTime& now, int days)

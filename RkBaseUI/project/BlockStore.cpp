@@ -11,6 +11,7 @@
 
 #include <QDateTime>
 #include <QFileInfo>
+#include <QLocale>
 #include <QSqlQuery>
 #include <QSqlRecord>
 #include <QVariant>
@@ -43,8 +44,8 @@ QString flightFile(const QString& projectFile)
 
 QString readableTime(const QString& stored)
 {
-    const QString readable =
-        QDateTime::fromString(stored, DateTimeSFormat).toString(QStringLiteral("yyyy/MM/dd hh:mm"));
+    const QString readable = QLocale::c().toString(QLocale::c().toDateTime(stored, DateTimeSFormat),
+                                                   QStringLiteral("yyyy/MM/dd hh:mm"));
     return readable.isEmpty() ? stored : readable;
 }
 

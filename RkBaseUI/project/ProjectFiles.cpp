@@ -12,6 +12,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QLocale>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QUuid>
@@ -113,7 +114,7 @@ void writeNewName(const QString& file, const QString& newName)
     const QString version =
         query.next() ? QString::number(qint64(query.value(0).toInt()) + 1) : QString();
     query.finish();
-    const QString now = QDateTime::currentDateTime().toString(DateTimeSFormat);
+    const QString now = QLocale::c().toString(QDateTime::currentDateTime(), DateTimeSFormat);
     const QStringList statements =
         harmless(ProjectStoreSql::updateRenamed(newName, version, now), newName);
     for (const QString& statement : statements)

@@ -14,6 +14,7 @@
 #include <QDateTime>
 #include <QDir>
 #include <QFileInfo>
+#include <QLocale>
 #include <QSet>
 #include <QSettings>
 #include <QSqlQuery>
@@ -120,7 +121,7 @@ void makeProject(CRkDataBase& database, const QString& name, const QString& user
     for (const QString& statement : tables)
         database.exec(statement);
     const QString id = GetUidVariant(QUuid::createUuid().toString());
-    const QString now = QDateTime::currentDateTime().toString(DateTimeSFormat);
+    const QString now = QLocale::c().toString(QDateTime::currentDateTime(), DateTimeSFormat);
     database.exec(ProjectStoreSql::insertProject({name, id, userId, now}));
 }
 

@@ -5,6 +5,7 @@
 
 #include <RkData/RkData.h>
 
+#include <QLocale>
 #include <QSqlDatabase>
 #include <QSqlQuery>
 #include <QStringList>
@@ -97,11 +98,12 @@ void insertProject(Writer& writer, const SampleContent& content)
     const QVariant image = content.imageData.isEmpty()
         ? QVariant(QVariant::String)
         : QVariant(QString::fromLatin1(content.imageData));
-    writer.insert(
-        ProjectTableName, columns,
-        {content.id, content.name, content.userId, content.created.toString(DateTimeSFormat),
-         content.modified.toString(DateTimeSFormat), QString::number(content.version),
-         content.mapScale, VANTRELL_VERSION, content.centre.Lat(), content.centre.Lng(), image});
+    writer.insert(ProjectTableName, columns,
+                  {content.id, content.name, content.userId,
+                   QLocale::c().toString(content.created, DateTimeSFormat),
+                   QLocale::c().toString(content.modified, DateTimeSFormat),
+                   QString::number(content.version), content.mapScale, VANTRELL_VERSION,
+                   content.centre.Lat(), content.centre.Lng(), image});
 }
 
 void insertBlock(Writer& writer, const QString& projectId, const SampleBlock& block)
@@ -154,11 +156,11 @@ bool writeFlights(const QString& file, const QVector<SampleBlock>& blocks)
     for (const SampleBlock& block : blocks) {
         for (const SampleTask& task : block.tasks) {
             for (const QDateTime& flight : task.flights) {
-                writer.insert(
-                    FlightMissionTableName,
-                    {QStringLiteral("id"), QStringLiteral("flight_task_id"),
-                     QStringLiteral("flown_at")},
-                    {QString::number(++number), task.id, flight.toString(DateTimeSFormat)});
+                writer.insert(FlightMissionTableName,
+                              {QStringLiteral("id"), QStringLiteral("flight_task_id"),
+                               QStringLiteral("flown_at")},
+                              {QString::number(++number), task.id,
+                               QLocale::c().toString(flight, DateTimeSFormat)});
             }
         }
     }

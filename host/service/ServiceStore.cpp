@@ -4,6 +4,7 @@
 #include "service/ServiceStore.h"
 
 #include <QDateTime>
+#include <QLocale>
 #include <QMutexLocker>
 #include <QSqlDatabase>
 #include <QSqlQuery>
@@ -39,7 +40,8 @@ const char* const selectDocuments =
 
 QString now()
 {
-    return QDateTime::currentDateTime().toString(QStringLiteral("yyyy-MM-dd hh:mm:ss"));
+    return QLocale::c().toString(QDateTime::currentDateTime(),
+                                 QStringLiteral("yyyy-MM-dd hh:mm:ss"));
 }
 
 bool run(const QSqlDatabase& database, const char* statement)

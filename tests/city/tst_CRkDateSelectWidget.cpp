@@ -301,8 +301,8 @@ void tst_CRkDateSelectWidget::quickChoices()
     const QSignalSpy spy(&page, &CRkDateSelectWidget::signalDateSelected);
     const auto expected = [&] {
         const QDate today = QDate::currentDate();
-        const QString first = today.addDays(-days).toString("yyyy-MM-dd");
-        return isRange ? first + " to " + today.toString("yyyy-MM-dd") : first;
+        const QString first = today.addDays(-days).toString(Qt::ISODate);
+        return isRange ? first + " to " + today.toString(Qt::ISODate) : first;
     };
     const QString before = expected();
     page.clickOn(page.button(name));

@@ -5,8 +5,6 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QLocale>
-#include <QProcess>
 #include <QTest>
 
 #include <limits>
@@ -65,7 +63,6 @@ private slots:
     void earlier_data();
     void earlier();
     void values();
-    void timesInEveryLocale();
     void keysWithoutAnything();
     void fileName_data();
     void fileName();
@@ -174,29 +171,6 @@ void tst_NoFlyDocument::values()
         {"explain", "for the dam"},
     };
     QCOMPARE(objectOf(sound()), expected);
-}
-
-/// Here, and in a process whose system writes other digits, which is fixed when it starts.
-void tst_NoFlyDocument::timesInEveryLocale()
-{
-    const QJsonObject object = objectOf(sound());
-    QCOMPARE(object.value("beginat"), QJsonValue("2026-05-01 08:05:09"));
-    QCOMPARE(object.value("expiredat"), QJsonValue("2026-12-31 18:00:00"));
-
-    const QString mark = QStringLiteral("RK_TEST_INNER");
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
-    if (environment.contains(mark)) {
-        QVERIFY(QLocale::system().toString(1) != "1");
-        return;
-    }
-    environment.insert(mark, QStringLiteral("1"));
-    environment.insert(QStringLiteral("LC_ALL"), QStringLiteral("ar_EG.UTF-8"));
-    QProcess inner;
-    inner.setProcessEnvironment(environment);
-    inner.start(QCoreApplication::applicationFilePath(), {QTest::currentTestFunction()});
-    const bool passed = inner.waitForFinished() && inner.exitStatus() == QProcess::NormalExit
-        && inner.exitCode() == 0;
-    QVERIFY2(passed, inner.readAllStandardOutput().constData());
 }
 
 /// All keys are there, with texts.
