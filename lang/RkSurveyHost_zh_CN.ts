@@ -468,8 +468,8 @@
         <translation>用方格网法测量挖填方量</translation>
     </message>
     <message>
-        <source>Drag the grid to its place. Hold Alt to turn it.</source>
-        <translation>拖动方格网到测量位置，按住 Alt 键拖动可旋转。</translation>
+        <source>Move the grid with the mouse or the arrow keys. Hold Alt to turn it.</source>
+        <translation>用鼠标或方向键移动方格网，按住 Alt 键可旋转。</translation>
     </message>
     <message>
         <source>Such cells are too large for the terrain.</source>

@@ -81,18 +81,25 @@ struct Design
     QString levellingText;
 };
 
-Design chosenDesign(const QString& mode, double average, double lowest)
+/// @param modes texts of the average plane, the minimum plane and the custom design
+Design chosenDesign(const QString& mode, const QStringList& modes, double average, double lowest)
 {
     Design design;
     design.levellingText = numberText(average);
-    if (mode == CRkVolumeWgt::tr("Average Plane")) {
+    switch (modes.indexOf(mode)) {
+    case 0:
         design.mode = Design::Plane;
         design.elevation = average;
-    } else if (mode == CRkVolumeWgt::tr("Minimum Plane")) {
+        break;
+    case 1:
         design.mode = Design::Plane;
         design.elevation = lowest;
-    } else if (mode == CRkVolumeWgt::tr("Custom")) {
+        break;
+    case 2:
         design.mode = Design::Custom;
+        break;
+    default:
+        break;
     }
     design.elevationText = numberText(design.elevation);
     return design;
@@ -196,6 +203,7 @@ void CRkVolumeWgt::InitWgt()
         // The heights of earlier grids stay as they are.
         const QSignalBlocker blocker(m_form->comboBox_design);
         m_form->comboBox_design->clear();
+        m_modes = QStringList{tr("Average Plane"), tr("Minimum Plane"), tr("Custom")};
         // The blank at the end tells the entry from the mode "Custom": without a translation, which
         // gives both the same text, choosing it leaves the table alone.
         m_form->comboBox_design->addItems(
@@ -362,8 +370,8 @@ void CRkVolumeWgt::ResetTableWgt()
     {
         // One message for all cells: each alone would cost more than its change.
         const QSignalBlocker blocker(table->model());
-        const Design design =
-            chosenDesign(m_form->comboBox_design->currentText(), m_dAvgElevation, m_dMinElevation);
+        const Design design = chosenDesign(m_form->comboBox_design->currentText(), m_modes,
+                                           m_dAvgElevation, m_dMinElevation);
         for (int row = 0; row < rows; ++row) {
             const double height =
                 writeDesign(design, row,
@@ -387,8 +395,8 @@ void CRkVolumeWgt::_appendRows(const std::vector<rk::GridPoint>& points)
     std::vector<double> heights;
     heights.reserve(points.size());
     const QSignalBlocker blocker(table->model());
-    const Design design =
-        chosenDesign(m_form->comboBox_design->currentText(), m_dAvgElevation, m_dMinElevation);
+    const Design design = chosenDesign(m_form->comboBox_design->currentText(), m_modes,
+                                       m_dAvgElevation, m_dMinElevation);
     for (const rk::GridPoint& point : points) {
         const Row cells = {newCell(), newCell(), newCell(), newCell(), newCell()};
         cells[IndexColumn]->setText(point.name);

@@ -9,6 +9,7 @@
 #include <QHash>
 #include <QMap>
 #include <QMultiMap>
+#include <QStringList>
 #include <QVariant>
 
 #include <memory>
@@ -26,8 +27,11 @@ class RkVolumeWgt;
 /// computes excavation and fill. Metres, square metres, cubic metres.
 ///
 ///     auto* window = new CRkVolumeWgt(mainWindow);
+///     connect(window, &CRkVolumeWgt::signalGridGenerate, map, &Map::layGrid);
 ///     connect(window, &CRkVolumeWgt::signalGridComplete, map, &Map::sampleGrid);
 ///     connect(map, &Map::gridSampled, window, &CRkVolumeWgt::slotGridPt);
+///     connect(window, &CRkVolumeWgt::signalVolumeComplete, map, &Map::colourCells);
+///     connect(window, &QDialog::finished, map, &Map::removeGrid);
 ///     window->InitWgt();
 ///     window->show();
 ///
@@ -101,6 +105,9 @@ private:
 
     const std::unique_ptr<Ui::RkVolumeWgt> m_form;
     std::unique_ptr<CRkTableDelegate> m_pTableDelegate;
+    /// Texts of the design planes in the language of `InitWgt`, which the user still sees after the
+    /// application has changed its own.
+    QStringList m_modes;
     /// Of all grids so far. Terrain above the start never gets here.
     double m_dMinElevation = 10000.0;
     double m_dAvgElevation = 0.0;

@@ -70,8 +70,6 @@ void showTerrain(QWidget& window)
 
 void generate(QWidget& window, double side)
 {
-    hostOf(window).showPage(HostWindow::Page::Terrain);
-    QCoreApplication::processEvents();
     hostOf(window).openEarthwork();
     const QWidget& dialog = *hostOf(window).tools()->earthwork();
     dialog.findChild<QDoubleSpinBox*>(QStringLiteral("doubleSpinBox_grid"))->setValue(side);
@@ -89,14 +87,13 @@ void generateAndTurn(QWidget& window, double side)
     drag(terrain, centre + QPointF(120, 0), centre + QPointF(112, -46), Qt::AltModifier);
 }
 
-/// As much as fits beside the tool.
+/// Between the legend and the tool.
 void zoomToGrid(TerrainPanel& terrain)
 {
-    constexpr double covered = 480;
+    const QPointF middle(516, 352);
     TerrainView view = terrain.view();
-    view.scale = 1.2 * view.scale;
-    view.centre = terrain.grid()->centre + QPointF(covered / 2 / view.scale, 0);
-    terrain.setView(view);
+    view.scale = 1.1 * view.scale;
+    terrain.setView(view.moved(middle - view.toScreen(terrain.grid()->centre)));
 }
 
 void compute(QWidget& window)

@@ -35,7 +35,7 @@ bool canMakeContext()
     QOffscreenSurface surface;
     surface.setFormat(context.format());
     surface.create();
-    return context.makeCurrent(&surface);
+    return !context.isOpenGLES() && context.makeCurrent(&surface);
 }
 
 Components times(const QColor& colour, float factor)

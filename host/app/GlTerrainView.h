@@ -14,8 +14,8 @@ class GlTerrainView : public QOpenGLWidget
     Q_OBJECT
 
 public:
-    /// Whether an OpenGL context can be made here. Without one, a window that holds this view
-    /// shows nothing.
+    /// Whether a context of desktop OpenGL can be made here. Without one, a window that holds this
+    /// view shows nothing.
     static bool isPossible();
 
     /// @param terrain outlives the view

@@ -5,9 +5,10 @@
 
 #include <QFontMetricsF>
 #include <QPainter>
-#include <QPainterPath>
+#include <QtMath>
 
 #include <algorithm>
+#include <cmath>
 
 namespace {
 
@@ -15,31 +16,37 @@ const QColor accent(58, 136, 244);
 const QColor ink(22, 30, 50);
 constexpr double textMargin = 3; // Pixels beside a volume in its cell.
 
-/// From north to south and from west to east, in the unit of cells.
-QVector<QLineF> innerLines(const EarthworkGrid& grid)
+/// Between the cells, on the screen.
+QVector<QLineF> innerLines(const EarthworkGrid& grid, const QTransform& toScreen)
 {
     QVector<QLineF> lines;
     for (int column = 1; column < grid.columns; ++column)
-        lines.append({QPointF(column, 0), QPointF(column, grid.rows)});
+        lines.append(toScreen.map(QLineF(column, 0, column, grid.rows)));
     for (int row = 1; row < grid.rows; ++row)
-        lines.append({QPointF(0, row), QPointF(grid.columns, row)});
+        lines.append(toScreen.map(QLineF(0, row, grid.columns, row)));
     return lines;
 }
 
-QPen cosmetic(const QColor& colour, double width)
+QPen outlinePen(const QColor& colour, double width)
 {
-    QPen pen(colour, width);
-    pen.setCosmetic(true);
-    pen.setJoinStyle(Qt::MiterJoin);
-    return pen;
+    return QPen(colour, width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
+}
+
+/// Whether an upright rectangle has room in the middle of a cell with such sides.
+bool hasRoom(const QSizeF& rectangle, double side, double angle)
+{
+    const double cosine = std::abs(std::cos(qDegreesToRadians(angle)));
+    const double sine = std::abs(std::sin(qDegreesToRadians(angle)));
+    return rectangle.width() * cosine + rectangle.height() * sine <= side
+        && rectangle.width() * sine + rectangle.height() * cosine <= side;
 }
 
 void drawOutline(QPainter& painter, const QPolygonF& outline, bool isMovable)
 {
     painter.setBrush(Qt::NoBrush);
-    painter.setPen(cosmetic(QColor(9, 2, 38, 110), 4.5));
+    painter.setPen(outlinePen(QColor(9, 2, 38, 110), 4.5));
     painter.drawPolygon(outline);
-    painter.setPen(cosmetic(isMovable ? accent : QColor(Qt::white), 2));
+    painter.setPen(outlinePen(isMovable ? accent : QColor(Qt::white), 2));
     painter.drawPolygon(outline);
     if (!isMovable)
         return;
@@ -116,15 +123,15 @@ void GridDrawing::draw(QPainter& painter, const EarthworkGrid& grid, const Terra
         painter.drawImage(cells, m_colours);
     else
         painter.fillRect(cells, QColor(255, 255, 255, isMovable ? 46 : 78));
-    const bool isDense = grid.side * view.scale < 6;
-    painter.setPen(cosmetic(hasVolumes() ? QColor(255, 255, 255, isDense ? 60 : 150)
-                                         : QColor(40, 60, 110, isDense ? 70 : 130),
-                            1));
-    painter.drawLines(innerLines(grid));
     painter.restore();
 
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
+    const bool isDense = grid.side * view.scale < 6;
+    painter.setPen(QPen(hasVolumes() ? QColor(255, 255, 255, isDense ? 60 : 150)
+                                     : QColor(40, 60, 110, isDense ? 70 : 130),
+                        1));
+    painter.drawLines(innerLines(grid, toScreen));
     drawOutline(painter, view.transform().map(grid.outline()), isMovable);
     if (hasVolumes())
         drawTexts(painter, grid, view);
@@ -141,8 +148,8 @@ void GridDrawing::drawTexts(QPainter& painter, const EarthworkGrid& grid,
     const QFontMetricsF metrics(font);
     const double lineHeight = metrics.height() - 2;
     const double width = metrics.horizontalAdvance(m_longestText);
-    const double room = grid.side * view.scale - 2 * textMargin;
-    if (std::max(width, m_mostLines * lineHeight) > room)
+    if (!hasRoom({width, m_mostLines * lineHeight}, grid.side * view.scale - 2 * textMargin,
+                 grid.angle))
         return;
     painter.setFont(font);
     painter.setPen(ink);

@@ -22,6 +22,7 @@
 #include <QDockWidget>
 #include <QEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QMenu>
 #include <QStackedWidget>
 #include <QStatusBar>
@@ -136,6 +137,10 @@ void HostWindow::makePages()
         m_pages->addWidget(page);
     setCentralWidget(m_pages);
     m_surveyTools = new SurveyTools(m_map, m_terrain, m_scene, this);
+    connect(m_surveyTools, &SurveyTools::terrainWanted, this, [this] {
+        showPage(Page::Terrain);
+        activateWindow();
+    });
     connect(m_terrain, &TerrainPanel::earthworkWanted, this, &HostWindow::openEarthwork);
     connect(m_scene, &LightPanel::lightWanted, this, &HostWindow::openLight);
 }
@@ -349,6 +354,7 @@ void HostWindow::showPage(Page page)
     m_pages->setCurrentIndex(int(page));
     m_pages->currentWidget()->setFocus();
     m_dock->setVisible(page == Page::Map); // The block is none of the terrain's.
+    layout()->activate(); // At once: a tool that is opened next stands at the page's edge.
 }
 
 void HostWindow::openEarthwork()

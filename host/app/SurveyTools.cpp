@@ -19,6 +19,8 @@
 #include <QLineEdit>
 #include <QRadioButton>
 
+#include <algorithm>
+
 namespace {
 
 constexpr int gap = 16; // Pixels between a tool's window and the edges of the view.
@@ -27,7 +29,8 @@ constexpr int gap = 16; // Pixels between a tool's window and the edges of the v
 void placeBeside(QWidget& window, const QWidget& view)
 {
     window.resize(window.size().expandedTo(window.minimumSizeHint()));
-    window.move(view.mapToGlobal(QPoint(view.width() - window.width() - gap, gap)));
+    const int left = std::max(0, view.width() - window.width() - gap);
+    window.move(view.mapToGlobal(QPoint(left, gap)));
 }
 
 int coveredWidth(const QWidget& window)
@@ -81,7 +84,10 @@ void SurveyTools::openEarthwork()
     m_earthwork = new CRkVolumeWgt(m_window);
     CRkVolumeWgt* dialog = m_earthwork;
     dialog->setAttribute(Qt::WA_DeleteOnClose);
-    connect(dialog, &CRkVolumeWgt::signalGridGenerate, m_terrain, &TerrainPanel::layGrid);
+    connect(dialog, &CRkVolumeWgt::signalGridGenerate, this, [this](double side) {
+        emit terrainWanted();
+        m_terrain->layGrid(side);
+    });
     connect(dialog, &CRkVolumeWgt::signalGridComplete, m_terrain, &TerrainPanel::sampleGrid);
     connect(m_terrain, &TerrainPanel::gridSampled, dialog,
             [this, dialog](const QVariantMap& points, const QVariantMap& cells) {

@@ -42,6 +42,9 @@ public Q_SLOTS:
     void convertCoordinates();
 
 Q_SIGNALS:
+    /// A grid is about to be laid, which the user then moves: the terrain is to be seen and to get
+    /// the keys.
+    void terrainWanted();
     /// There is a new result.
     void resultChanged();
 

@@ -45,16 +45,17 @@ const QPixmap& TerrainCanvas::picture(const TerrainView& view, double pixelRatio
     painter.drawImage(area, m_relief);
     painter.setTransform(view.transform(), true);
     painter.setClipRect(extent);
-    drawContours(painter);
+    drawContours(painter, pixelRatio);
     return m_picture;
 }
 
-void TerrainCanvas::drawContours(QPainter& painter) const
+/// Pens that ignore the scale of the view ignore that of the screen, too.
+void TerrainCanvas::drawContours(QPainter& painter, double pixelRatio) const
 {
     for (const Contour& contour : m_contours) {
         const bool isIndex =
             std::lround(contour.elevation / contourInterval) % contoursPerIndex == 0;
-        QPen pen(isIndex ? indexColour : contourColour, isIndex ? 1.2 : 1.0);
+        QPen pen(isIndex ? indexColour : contourColour, (isIndex ? 1.2 : 1.0) * pixelRatio);
         pen.setCosmetic(true);
         painter.setPen(pen);
         painter.drawLines(contour.pieces);

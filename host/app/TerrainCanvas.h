@@ -20,7 +20,7 @@ public:
     const QPixmap& picture(const TerrainView& view, double pixelRatio);
 
 private:
-    void drawContours(QPainter& painter) const;
+    void drawContours(QPainter& painter, double pixelRatio) const;
 
     ElevationModel m_model;
     QImage m_relief; ///< Null until a picture is wanted.

@@ -27,6 +27,7 @@ constexpr double notch = 120; // Of a wheel, in the units of its events.
 constexpr double keyStep = 80; // Pixels.
 constexpr double gridShare = 0.46; // Of a new grid, of the shorter side of what is shown.
 constexpr double wholeMargin = 24; // Pixels.
+constexpr double mostCovered = 0.6; // Of the width; with more there would be no room for a grid.
 
 const QCursor& turnCursor()
 {
@@ -67,7 +68,7 @@ void TerrainPanel::retranslate()
 {
     setAccessibleName(tr("Terrain"));
     m_buttons->setToolText(tr("Earthwork"), tr("Measure cut and fill over a grid of squares"));
-    update();
+    setNote(m_note);
 }
 
 void TerrainPanel::setView(const TerrainView& view)
@@ -106,7 +107,7 @@ void TerrainPanel::layGrid(double side)
     letGo();
     m_isSampled = false;
     m_drawing.clear();
-    const QRectF free(0, 0, std::max(1, width() - m_coveredWidth), height());
+    const QRectF free(0, 0, freeWidth(), height());
     const double pixels = gridShare * std::min(free.width(), free.height());
     m_grid = EarthworkGrid::laid(side, pixels / m_view.scale, m_view.toTerrain(free.center()),
                                  m_model.extent());
@@ -155,7 +156,13 @@ void TerrainPanel::setGrid(const EarthworkGrid& grid)
 void TerrainPanel::setNote(Note note)
 {
     m_note = note;
+    setAccessibleDescription(this->note());
     update();
+}
+
+double TerrainPanel::freeWidth() const
+{
+    return width() - std::min<double>(m_coveredWidth, mostCovered * width());
 }
 
 QString TerrainPanel::note() const
@@ -164,7 +171,7 @@ QString TerrainPanel::note() const
     case Note::None:
         return {};
     case Note::Movable:
-        return tr("Drag the grid to its place. Hold Alt to turn it.");
+        return tr("Move the grid with the mouse or the arrow keys. Hold Alt to turn it.");
     case Note::TooLarge:
         return tr("Such cells are too large for the terrain.");
     case Note::NoGrid:
@@ -175,7 +182,7 @@ QString TerrainPanel::note() const
 
 QString TerrainPanel::placeText() const
 {
-    if (!m_cursorPlace)
+    if (!m_cursorPlace || !QRectF(rect()).contains(*m_cursorPlace))
         return {};
     const QPointF place = m_view.toTerrain(*m_cursorPlace);
     if (!m_model.extent().contains(place))
@@ -227,7 +234,10 @@ void TerrainPanel::drawNote(QPainter& painter) const
     font.setPixelSize(13);
     painter.setFont(font);
     QRectF plate(0, 0, painter.fontMetrics().horizontalAdvance(text) + 28, 34);
-    plate.moveCenter(QPointF((width() - m_coveredWidth) / 2.0, border + 17));
+    plate.moveCenter(QPointF(freeWidth() / 2, border + 17));
+    const double beside = m_buttons->geometry().right() + border;
+    if (plate.left() < beside)
+        plate.moveLeft(beside);
     PlateStyle::draw(painter, plate);
     painter.setPen(QColor(44, 60, 90));
     painter.drawText(plate, Qt::AlignCenter, text);

@@ -44,7 +44,7 @@ public:
 
     /// What the corner says of the place under the cursor; empty when the cursor is elsewhere.
     QString placeText() const;
-    /// What the panel says to the user; empty when nothing.
+    /// What the panel says to the user; empty when nothing. It is the accessible description, too.
     QString note() const;
 
 public Q_SLOTS:
@@ -93,6 +93,7 @@ private:
     void letGo();
     void updateCursor(Qt::KeyboardModifiers modifiers);
     bool moveByKey(QKeyEvent* event);
+    double freeWidth() const;
     QRect cornerRect() const;
     void drawNote(QPainter& painter) const;
 

@@ -13,6 +13,7 @@ namespace {
 constexpr float fieldOfView = 38; // Degrees, over the height.
 constexpr double widest = 1.45; // Width to height of the picture from which on the height counts.
 constexpr float middle = 0.1F; // The origin is above the middle: what is near looks larger.
+constexpr double mostCovered = 0.6; // Of the width; with more nothing would be seen.
 constexpr float nearPlane = 20;
 constexpr float farPlane = 9000;
 
@@ -38,9 +39,10 @@ QMatrix4x4 OrbitCamera::projection(const QSizeF& size, double covered) const
 {
     const double width = std::max(1.0, size.width());
     const double height = std::max(1.0, size.height());
-    const double free = std::max(1.0, width - covered) / height;
+    const double share = std::min(covered / width, mostCovered);
+    const double free = width * (1 - share) / height;
     QMatrix4x4 matrix;
-    matrix.translate(float(-covered / width), middle);
+    matrix.translate(float(-share), middle);
     matrix.scale(float(std::min(1.0, free / widest)));
     matrix.perspective(fieldOfView, float(width / height), nearPlane, farPlane);
     return matrix;

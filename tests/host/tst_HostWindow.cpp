@@ -155,6 +155,10 @@ private slots:
     void pagesAreReached();
     void blockIsShownOnTheMap();
     void toolsOpenOnTheirPages();
+    void toolsStandBesideTheirViews();
+    void gridGetsTheKeys();
+    void windowGoesWithItsTools_data();
+    void windowGoesWithItsTools();
     void shortcutsReachEverything();
     void menuListsTheTools();
     void antennaHeightIsShown();
@@ -570,6 +574,79 @@ void tst_HostWindow::toolsOpenOnTheirPages()
     QCOMPARE(m_window->page(), HostWindow::Page::Scene);
     QVERIFY(tools->light() && tools->light()->isVisible());
     QVERIFY2(tools->earthwork()->isVisible(), "one does not close the other");
+}
+
+/// The page is wider than the map that was shown before.
+void tst_HostWindow::toolsStandBesideTheirViews()
+{
+    const SurveyTools* tools = m_window->tools();
+    const auto right = [](const QWidget& widget) {
+        return widget.mapToGlobal(QPoint(widget.width(), 0)).x();
+    };
+    for (int i = 0; i < 2; ++i) {
+        m_window->showPage(HostWindow::Page::Map);
+        QTRY_VERIFY(m_window->blockPanel()->isVisible());
+        QTRY_VERIFY(right(*m_window->map()) < right(*m_window) - 300);
+        tool(*m_window, i)->trigger();
+        const QWidget* window = i == 0 ? static_cast<QWidget*>(tools->earthwork()) : tools->light();
+        QCOMPARE(right(*window), right(*m_window) - 16);
+        QCOMPARE(window->geometry().top(),
+                 m_window->centralWidget()->mapToGlobal(QPoint()).y() + 16);
+        QCoreApplication::processEvents();
+        QCOMPARE(right(*m_window->centralWidget()), right(*m_window));
+    }
+}
+
+/// From whatever page it is asked for, it is moved by the keys at once.
+void tst_HostWindow::gridGetsTheKeys()
+{
+    tool(*m_window, 0)->trigger();
+    CRkVolumeWgt* dialog = m_window->tools()->earthwork();
+    m_window->showPage(HostWindow::Page::Map);
+    m_window->resize(1000, 700); // The hidden page does not see that.
+    dialog->activateWindow();
+    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    QTest::keyClick(dialog->findChild<QPushButton*>(QStringLiteral("btn_grid_generate")),
+                    Qt::Key_Space);
+    TerrainPanel& terrain = *m_window->terrain();
+    QVERIFY(terrain.grid());
+    QCOMPARE(m_window->page(), HostWindow::Page::Terrain);
+    QCOMPARE(terrain.view().size, QSizeF(m_window->centralWidget()->size()));
+    QTRY_VERIFY(terrain.hasFocus());
+    const QPointF before = terrain.grid()->centre;
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_Up);
+    QVERIFY(terrain.grid()->centre.y() > before.y());
+    QTest::keyClick(m_window.get(), Qt::Key_E, Qt::ControlModifier);
+    QTRY_VERIFY(dialog->isActiveWindow());
+    QVERIFY2(terrain.grid(), "the window is the same");
+}
+
+void tst_HostWindow::windowGoesWithItsTools_data()
+{
+    QTest::addColumn<bool>("isClosedFirst");
+    QTest::newRow("closed") << true;
+    QTest::newRow("destroyed") << false;
+}
+
+/// Its tools do not keep the application alive, nor do they outlive it.
+void tst_HostWindow::windowGoesWithItsTools()
+{
+    QFETCH(bool, isClosedFirst);
+    tool(*m_window, 0)->trigger();
+    tool(*m_window, 1)->trigger();
+    const QPointer<CRkVolumeWgt> earthwork = m_window->tools()->earthwork();
+    const QPointer<CRkLightWgt> light = m_window->tools()->light();
+    earthwork->findChild<QPushButton*>(QStringLiteral("btn_grid_generate"))->click();
+    earthwork->findChild<QPushButton*>(QStringLiteral("btn_grid_ensure"))->click();
+    if (isClosedFirst) {
+        QTimer::singleShot(0, m_window.get(), &QWidget::close);
+        QTimer tooLate;
+        connect(&tooLate, &QTimer::timeout, qApp, [] { QApplication::exit(1); });
+        tooLate.start(10'000);
+        QCOMPARE(QApplication::exec(), 0);
+    }
+    m_window.reset();
+    QVERIFY(!earthwork && !light);
 }
 
 void tst_HostWindow::shortcutsReachEverything()

@@ -81,6 +81,7 @@ private slots:
     void cameraLooksAtTheMiddle();
     void cameraKeepsItsLimits();
     void coveredPartIsKeptFree();
+    void somethingIsSeenHoweverMuchIsCovered();
     void pictureFollowsTheLight();
     void nearGroundHidesFarGround();
     void blendGoesToTheTerrainsColours();
@@ -260,6 +261,16 @@ void tst_LitTerrain::coveredPartIsKeptFree()
                          qPrintable(QStringLiteral("%1, %2").arg(at.x()).arg(at.y())));
             }
         }
+    }
+}
+
+void tst_LitTerrain::somethingIsSeenHoweverMuchIsCovered()
+{
+    LitTerrain terrain = litTerrain(record({0, 0, 1}));
+    for (const double covered : {240.0, 390.0, 400.0, 900.0}) {
+        terrain.covered = covered;
+        QCOMPARE(inPicture(terrain, {0, 0, 0}).x(), 80);
+        QVERIFY(inPicture(terrain, {500, 0, 0}).x() > 110);
     }
 }
 

@@ -99,6 +99,7 @@ private slots:
     void reliefIsNotDrawnAnewForTheGrid();
     void cornerTellsTheElevation();
     void gridLiesInTheMiddleOfTheFreePart();
+    void gridHasRoomBesideAWideTool();
     void gridIsDragged();
     void gridIsTurnedWithAlt();
     void gridStaysOnTheTerrain();
@@ -113,6 +114,8 @@ private slots:
     void sampledGridStaysInItsPlace();
     void changedLengthIsThatOfTheGrid();
     void volumesAreWrittenWhereTheyFit();
+    void volumesKeepToTurnedCells();
+    void linesAreAsThickOnEveryScreen();
     void hugeGridIsShownQuickly();
     void endOfTheDialogRemovesTheGrid_data();
     void endOfTheDialogRemovesTheGrid();
@@ -123,6 +126,8 @@ private:
     /// Opens the tool and lays a grid of cells of this side.
     CRkVolumeWgt& openWithGrid(double side);
     QPointF gridMiddle() const;
+    /// Dark pixels about the grid, as those of its texts.
+    int inkPixels() const;
     void verifyCells(const QVariantMap& volumes, double average, const QImage& before,
                      const QImage& after) const;
 
@@ -250,6 +255,13 @@ void tst_TerrainPanel::cornerTellsTheElevation()
     m_panel->showWhole();
     hover(*m_panel, {3, 3});
     QVERIFY2(m_panel->placeText().isEmpty(), "beside the terrain");
+    m_panel->zoomIn();
+    sendMouse(*m_panel, QEvent::MouseButtonPress, at, Qt::LeftButton, Qt::NoModifier);
+    sendMouse(*m_panel, QEvent::MouseMove, {512, 701}, Qt::LeftButton, Qt::NoModifier);
+    QVERIFY2(m_panel->placeText().isEmpty(), "dragged out of the panel");
+    sendMouse(*m_panel, QEvent::MouseMove, at, Qt::LeftButton, Qt::NoModifier);
+    QVERIFY(!m_panel->placeText().isEmpty());
+    sendMouse(*m_panel, QEvent::MouseButtonRelease, at, Qt::NoButton, Qt::NoModifier);
 }
 
 void tst_TerrainPanel::gridLiesInTheMiddleOfTheFreePart()
@@ -265,6 +277,19 @@ void tst_TerrainPanel::gridLiesInTheMiddleOfTheFreePart()
     for (const QPointF& corner : m_panel->grid()->outline())
         QVERIFY(QRectF(0, 0, 600, 700).contains(m_panel->view().toScreen(corner)));
     QVERIFY(!m_panel->note().isEmpty());
+}
+
+/// In a window that is narrower than the tool.
+void tst_TerrainPanel::gridHasRoomBesideAWideTool()
+{
+    m_window->resize(400, 500);
+    QTRY_COMPARE(m_panel->width(), 400);
+    const CRkVolumeWgt& dialog = openWithGrid(5);
+    QVERIFY(dialog.width() > 400);
+    QCOMPARE(dialog.x(), m_panel->mapToGlobal(QPoint()).x());
+    QVERIFY(near(gridMiddle(), {80, 250}));
+    const double pixels = m_panel->grid()->width() * m_panel->view().scale;
+    QVERIFY2(pixels > 60, qPrintable(QString::number(pixels)));
 }
 
 void tst_TerrainPanel::gridIsDragged()
@@ -399,6 +424,7 @@ void tst_TerrainPanel::cellsTooLarge()
     m_panel->layGrid(1000);
     QVERIFY(!m_panel->grid());
     QCOMPARE(m_panel->note(), QStringLiteral("Such cells are too large for the terrain."));
+    QCOMPARE(m_panel->accessibleDescription(), m_panel->note());
     m_panel->layGrid(20);
     QVERIFY(m_panel->grid());
     QVERIFY(m_panel->note().contains(QStringLiteral("Alt")));
@@ -517,26 +543,71 @@ void tst_TerrainPanel::changedLengthIsThatOfTheGrid()
     QCOMPARE(resultOf(dialog, 0), m_panel->grid()->width() * m_panel->grid()->height());
 }
 
+int tst_TerrainPanel::inkPixels() const
+{
+    const QImage image = rendered(*m_panel, 1);
+    const QRect part =
+        m_panel->view().transform().map(m_panel->grid()->outline()).boundingRect().toRect();
+    int count = 0;
+    for (int y = part.top(); y < part.bottom(); ++y) {
+        for (int x = part.left(); x < part.right(); ++x)
+            count += image.valid(x, y) && image.pixelColor(x, y).lightness() < 60 ? 1 : 0;
+    }
+    return count;
+}
+
 void tst_TerrainPanel::volumesAreWrittenWhereTheyFit()
 {
     const CRkVolumeWgt& dialog = openWithGrid(70);
     press(dialog, "btn_grid_ensure");
     press(dialog, "btn_design_computer");
-    const auto inkPixels = [this] {
-        const QImage image = rendered(*m_panel, 1);
-        const QRect part =
-            m_panel->view().transform().map(m_panel->grid()->outline()).boundingRect().toRect();
-        int count = 0;
-        for (int y = part.top(); y < part.bottom(); ++y) {
-            for (int x = part.left(); x < part.right(); ++x)
-                count += image.valid(x, y) && image.pixelColor(x, y).lightness() < 60 ? 1 : 0;
-        }
-        return count;
-    };
     QVERIFY(inkPixels() > 300);
     m_panel->showWhole();
     m_panel->zoomOut();
     QVERIFY2(inkPixels() < 30, "too small for the texts");
+}
+
+/// The same cells hold the texts while they stand straight, and not when they are turned by half a
+/// right angle, where two lines do not fit.
+void tst_TerrainPanel::volumesKeepToTurnedCells()
+{
+    TerrainView view = m_panel->view();
+    view.scale = 1;
+    m_panel->setView(view);
+    const auto show = [this](int degrees) {
+        m_panel->layGrid(40);
+        for (int i = 0; i < degrees; ++i)
+            QTest::keyClick(m_panel, Qt::Key_Left, Qt::AltModifier);
+        const EarthworkGrid& grid = *m_panel->grid();
+        QVariantMap volumes;
+        for (int i = 0; i < grid.columns * grid.rows; ++i)
+            volumes.insert(grid.cellName(i % grid.columns, i / grid.columns),
+                           QVariantList{150.0, -150.0});
+        m_panel->showVolumes(volumes);
+    };
+    show(0);
+    QVERIFY(inkPixels() > 300);
+    show(45);
+    QCOMPARE(m_panel->grid()->angle, 45.0);
+    QVERIFY(inkPixels() < 30);
+}
+
+/// Counted across the west side of the grid.
+void tst_TerrainPanel::linesAreAsThickOnEveryScreen()
+{
+    m_panel->layGrid(20);
+    const TerrainView& view = m_panel->view();
+    const QPointF side = view.toScreen(m_panel->grid()->cell(0, 3)[0]);
+    const auto accentPixels = [&](int scale) {
+        const QImage image = rendered(*m_panel, scale);
+        const int y = int((side.y() + 5) * scale);
+        int count = 0;
+        for (int x = int(side.x() - 6) * scale; x < int(side.x() + 6) * scale; ++x)
+            count += image.pixelColor(x, y).blue() > image.pixelColor(x, y).red() + 100 ? 1 : 0;
+        return count;
+    };
+    QVERIFY2(accentPixels(1) >= 1 && accentPixels(2) >= 3,
+             qPrintable(QStringLiteral("%1 %2").arg(accentPixels(1)).arg(accentPixels(2))));
 }
 
 /// As many cells as there may be, with all that is done for them.
@@ -619,6 +690,7 @@ void tst_TerrainPanel::languageChangesTheTexts()
     HostSettings::installLanguage(QStringLiteral("zh_CN"));
     QTRY_COMPARE(tool->text(), QString::fromUtf8("土方量计算"));
     QVERIFY(m_panel->note() != english);
+    QCOMPARE(m_panel->accessibleDescription(), m_panel->note());
     QCOMPARE(m_panel->accessibleName(), QString::fromUtf8("地形"));
     const QList<QToolButton*> buttons = m_panel->findChildren<QToolButton*>();
     for (const QToolButton* button : buttons)

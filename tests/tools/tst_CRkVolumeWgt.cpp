@@ -187,6 +187,7 @@ private slots:
     void planes();
     void changesAreSeen();
     void thirdModeUntranslated();
+    void modesStayWhenTheLanguageChanges();
     void thirdModeInChinese();
     void editorInChinese();
     void editorAfterAnotherMode();
@@ -679,6 +680,20 @@ void tst_CRkVolumeWgt::thirdModeUntranslated()
     window.slotGridPt(fourPoints("P", 0, {10, 12, 14, 16}), oneCell);
     QCOMPARE(texts(window, 1), QStringList({"P1", "12.00", "13.00", "", ""}));
     QCOMPARE(computed(window).value("A").toList(), QVariantList({0.0, 0.0}));
+}
+
+/// The window keeps the texts in which its modes are offered.
+void tst_CRkVolumeWgt::modesStayWhenTheLanguageChanges()
+{
+    CRkVolumeWgt window;
+    window.InitWgt();
+    const Chinese chinese;
+    QVERIFY(CRkVolumeWgt::tr("Average Plane") != "Average Plane");
+    QCOMPARE(design(window).currentText(), QString("Average Plane"));
+    window.slotGridPt(fourPoints("P", 0, {10, 12, 14, 16}), {{"A", cell(0, 0, 20)}});
+    QCOMPARE(texts(window, 0), QStringList({"P0", "10.00", "13.00", "13.00", "-3.00"}));
+    design(window).setCurrentIndex(1);
+    QCOMPARE(texts(window, 0), QStringList({"P0", "10.00", "13.00", "10.00", "0.00"}));
 }
 
 void tst_CRkVolumeWgt::thirdModeInChinese()
