@@ -12,6 +12,7 @@
 #include <RkData/ReferenceSettings.h>
 #include <RkData/RkData.h>
 
+#include <QDir>
 #include <QLabel>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -215,7 +216,8 @@ void tst_BlockPanel::showsWhatIsOpened()
     QCOMPARE(shown(panel, QStringLiteral("Scale")), QStringLiteral("1 : 2,000"));
     QCOMPARE(shown(panel, QStringLiteral("Centre")),
              QString::fromUtf8("30.66000° N  104.06000° E"));
-    QCOMPARE(shown(panel, QStringLiteral("File")), project.projectFilePath);
+    QCOMPARE(shown(panel, QStringLiteral("File")),
+             QDir::toNativeSeparators(project.projectFilePath));
     QCOMPARE(shown(panel, QStringLiteral("Software version")), VANTRELL_VERSION);
     QCOMPARE(shown(panel, QStringLiteral("Aircraft")), GetPlaneStringByType(PlaneTypeQuadrotor));
     const auto* tree = panel.findChild<QTreeWidget*>();
@@ -249,11 +251,12 @@ void tst_BlockPanel::longTextsAreCut()
     project.projectFilePath = QStringLiteral("/") + QString(400, QLatin1Char('p'));
     project.projectName = QString(400, QLatin1Char('n'));
     panel.showBlock(project, {}, {});
+    const QString path = QDir::toNativeSeparators(project.projectFilePath);
     for (const ElidedLabel* label : panel.findChildren<ElidedLabel*>()) {
-        if (label->wholeText() != project.projectFilePath)
+        if (label->wholeText() != path)
             continue;
         QTRY_VERIFY(label->text().contains(QChar(0x2026)));
-        QCOMPARE(label->toolTip(), project.projectFilePath);
+        QCOMPARE(label->toolTip(), path);
         QVERIFY(label->fontMetrics().horizontalAdvance(label->text()) <= label->width());
         return;
     }

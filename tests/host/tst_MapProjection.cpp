@@ -7,6 +7,7 @@
 #include "map/ScaleBar.h"
 
 #include <QTest>
+#include <QtMath>
 
 #include <cmath>
 #include <limits>

@@ -14,9 +14,22 @@
 #include <QThread>
 #include <QtTest>
 
+#ifdef Q_OS_UNIX
 #include <csignal>
+#else
+#include <windows.h>
+#endif
 
 namespace {
+
+bool suspend(const QProcess& program)
+{
+#ifdef Q_OS_UNIX
+    return ::kill(pid_t(program.processId()), SIGSTOP) == 0;
+#else
+    return DebugActiveProcess(DWORD(program.processId())) != 0;
+#endif
+}
 
 QStringList messages;
 
@@ -275,7 +288,7 @@ void tst_ServiceUploads::serviceDiesDuringTheBody()
     QProcess program;
     const QByteArray address = startProgram(program);
     // While it is stopped, the system takes the connection and as much of the body as it buffers.
-    QCOMPARE(::kill(pid_t(program.processId()), SIGSTOP), 0);
+    QVERIFY(suspend(program));
     Upload upload(address);
     QSignalSpy progress(upload.object.get(), &CRkUpLoadObject::uploadProgress);
     upload.post(QByteArray(64 * 1024 * 1024, 'x'));

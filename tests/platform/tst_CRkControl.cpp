@@ -4,6 +4,8 @@
 #include <RkData/CRkControl.h>
 #include <RkData/ReferenceSettings.h>
 
+#include "support/TestSupport.h"
+
 #include <QRandomGenerator>
 #include <QStandardPaths>
 #include <QtTest>
@@ -94,19 +96,22 @@ void tst_CRkControl::projectDirByDefault()
 
 void tst_CRkControl::projectDirFromEnvironment_data()
 {
-    QTest::addColumn<QByteArray>("value");
+    QTest::addColumn<QString>("value");
     QTest::addColumn<QString>("expected");
-    QTest::newRow("no trailing slash") << QByteArray("/tmp/p") << QStringLiteral("/tmp/p/");
-    QTest::newRow("trailing slash") << QByteArray("/tmp/p/") << QStringLiteral("/tmp/p/");
-    QTest::newRow("the root") << QByteArray("/") << QStringLiteral("/");
-    QTest::newRow("blanks and other letters") << QByteArray("/tmp/a b/\xe9\xa1\xb9\xe7\x9b\xae")
-                                              << QStringLiteral("/tmp/a b/\u9879\u76ee/");
+    QTest::newRow("no trailing slash") << "/tmp/p"
+                                       << "/tmp/p/";
+    QTest::newRow("trailing slash") << "/tmp/p/"
+                                    << "/tmp/p/";
+    QTest::newRow("the root") << "/"
+                              << "/";
+    QTest::newRow("blanks and other letters")
+        << QStringLiteral("/tmp/a b/\u9879\u76ee") << QStringLiteral("/tmp/a b/\u9879\u76ee/");
 }
 
 void tst_CRkControl::projectDirFromEnvironment()
 {
-    QFETCH(QByteArray, value);
-    qputenv("RK_PROJECT_DIR", value);
+    QFETCH(QString, value);
+    setEnvironment("RK_PROJECT_DIR", value);
     QTEST(CRkControl::GetProjectDirPath(), "expected");
 }
 

@@ -22,7 +22,9 @@
 #include <QtTest>
 
 #include <sys/stat.h>
+#ifdef Q_OS_UNIX
 #include <unistd.h>
+#endif
 
 #include <atomic>
 #include <cstdio>
@@ -45,6 +47,22 @@ QSet<QString> listedFiles(const CRkProjectManagerView& view)
             files.insert(tile->GetProjectFilePath());
     }
     return files;
+}
+
+/// Calls it as somebody who may not do everything, where the tests are run by one who may.
+template <typename Function>
+void withoutPrivileges(Function function)
+{
+#ifdef Q_OS_UNIX
+    const bool isSuperuser = geteuid() == 0;
+    if (isSuperuser)
+        QCOMPARE(seteuid(65534), 0);
+    function();
+    if (isSuperuser)
+        QCOMPARE(seteuid(0), 0);
+#else
+    function();
+#endif
 }
 
 /// Every path below a folder with its kind and content.
@@ -241,17 +259,14 @@ void tst_DamagedProjects::unreadable()
 {
     QVERIFY(!project("secret").isEmpty());
     QCOMPARE(chmod(QFile::encodeName(fileNamed("secret")).constData(), 0), 0);
-    // Whoever may do everything reads every file, so the listing is made as somebody else.
-    const bool isSuperuser = geteuid() == 0;
-    if (isSuperuser) {
-        for (const QString& folder : {m_home->path(), m_home->path() + "/config"})
-            chmod(QFile::encodeName(folder).constData(), 0755);
-        QCOMPARE(seteuid(65534), 0);
-    }
-    const bool isReadable = QFile(fileNamed("secret")).open(QIODevice::ReadOnly);
-    const QSet<QString> listed = listedFiles(CRkProjectManagerView(nullptr));
-    if (isSuperuser)
-        QCOMPARE(seteuid(0), 0);
+    for (const QString& folder : {m_home->path(), m_home->path() + "/config"})
+        chmod(QFile::encodeName(folder).constData(), 0755);
+    bool isReadable = true;
+    QSet<QString> listed;
+    withoutPrivileges([&] {
+        isReadable = QFile(fileNamed("secret")).open(QIODevice::ReadOnly);
+        listed = listedFiles(CRkProjectManagerView(nullptr));
+    });
     QVERIFY(!isReadable);
     QCOMPARE(listed, QSet<QString>({fileNamed("sound")}));
     QCOMPARE(chmod(QFile::encodeName(fileNamed("secret")).constData(), 0644), 0);

@@ -53,10 +53,10 @@ TestHome::TestHome()
     Q_ASSERT(m_dir.isValid());
     QDir().mkpath(projectRoot());
     const QString config = path() + QStringLiteral("/config");
-    qputenv("HOME", QFile::encodeName(path()));
-    qputenv("XDG_CONFIG_HOME", QFile::encodeName(config));
-    qputenv("XDG_DATA_HOME", QFile::encodeName(path() + QStringLiteral("/data")));
-    qputenv("RK_PROJECT_DIR", QFile::encodeName(projectRoot()));
+    setEnvironment("HOME", path());
+    setEnvironment("XDG_CONFIG_HOME", config);
+    setEnvironment("XDG_DATA_HOME", path() + QStringLiteral("/data"));
+    setEnvironment("RK_PROJECT_DIR", projectRoot());
     QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, config);
 }
 
@@ -77,6 +77,16 @@ void TestHome::setCurrentUserId(const QString& userId)
     QSettings settings(QString::fromLatin1(organizationName),
                        QString::fromLatin1(cloudApplicationName));
     settings.setValue(QStringLiteral("UserInfo/UserID"), userId);
+}
+
+void setEnvironment(const char* name, const QString& value)
+{
+#ifdef Q_OS_WIN
+    // The toolkit's own function takes the letters of one code page only.
+    _wputenv_s(QString::fromLatin1(name).toStdWString().c_str(), value.toStdWString().c_str());
+#else
+    qputenv(name, QFile::encodeName(value));
+#endif
 }
 
 bool runSql(const QString& file, const QStringList& statements)

@@ -33,6 +33,9 @@ private:
     QTemporaryDir m_dir;
 };
 
+/// Sets a variable of the environment, in any letters.
+void setEnvironment(const char* name, const QString& value);
+
 /// Runs the statements on the SQLite file, which is made when it is missing. False on the first
 /// failure.
 bool runSql(const QString& file, const QStringList& statements);

@@ -24,6 +24,7 @@
 #include <QSlider>
 #include <QTest>
 #include <QTranslator>
+#include <QtMath>
 
 #include <cmath>
 #include <limits>

@@ -6,6 +6,7 @@
 #include "widgets/Render.h"
 
 #include <QTest>
+#include <QtMath>
 
 #include <cmath>
 #include <limits>
