@@ -67,6 +67,22 @@
         <source>Tasks: %1, flights: %2</source>
         <translation>任务：%1，架次：%2</translation>
     </message>
+    <message>
+        <source>Apply for no-fly lift</source>
+        <translation>申请禁飞区解禁</translation>
+    </message>
+    <message>
+        <source>Apply to fly the block inside a no-fly zone</source>
+        <translation>为位于禁飞区内的测区申请解禁飞行</translation>
+    </message>
+    <message>
+        <source>Upload project</source>
+        <translation>上传项目</translation>
+    </message>
+    <message>
+        <source>Look at the whole project and send it to the web service</source>
+        <translation>查看项目全部内容并上传到服务端</translation>
+    </message>
 </context>
 <context>
     <name>Gallery</name>
@@ -428,6 +444,29 @@
     </message>
 </context>
 <context>
+    <name>ProjectUploads</name>
+    <message>
+        <source>Upload: project %1 has been uploaded.</source>
+        <translation>上传：项目“%1”已上传。</translation>
+    </message>
+    <message>
+        <source>Upload: project %1 was cancelled.</source>
+        <translation>上传：项目“%1”的上传已取消。</translation>
+    </message>
+    <message>
+        <source>Upload: project %1 failed.</source>
+        <translation>上传：项目“%1”上传失败。</translation>
+    </message>
+    <message>
+        <source>No-fly lift: the application for %1 has been submitted.</source>
+        <translation>禁飞区解禁：测区“%1”的申请已提交。</translation>
+    </message>
+    <message>
+        <source>No-fly lift: the service has not confirmed the application for %1.</source>
+        <translation>禁飞区解禁：测区“%1”的申请未得到服务端确认。</translation>
+    </message>
+</context>
+<context>
     <name>SurveyTools</name>
     <message>
         <source>Vertical height: %1 m</source>
@@ -486,6 +525,319 @@
     <message>
         <source>E %1  N %2  H %3 m</source>
         <translation>E %1  N %2  H %3 m</translation>
+    </message>
+</context>
+<context>
+    <name>UploadDialog</name>
+    <message>
+        <source>Upload project</source>
+        <translation>上传项目</translation>
+    </message>
+    <message>
+        <source>What is uploaded</source>
+        <translation>上传内容</translation>
+    </message>
+    <message>
+        <source>Progress of the upload</source>
+        <translation>上传进度</translation>
+    </message>
+    <message>
+        <source>Uploading …</source>
+        <translation>正在上传……</translation>
+    </message>
+    <message>
+        <source>Sent. Waiting for the answer of the service …</source>
+        <translation>已发送，正在等待服务端应答……</translation>
+    </message>
+    <message>
+        <source>Uploading … %1 of %2</source>
+        <translation>正在上传…… %1，共 %2</translation>
+    </message>
+    <message>
+        <source>Retry</source>
+        <translation>重试</translation>
+    </message>
+    <message>
+        <source>Upload</source>
+        <translation>上传</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>关闭</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>取消</translation>
+    </message>
+    <message>
+        <source>Nothing can be read of this project.</source>
+        <translation>无法读取该项目的内容。</translation>
+    </message>
+    <message>
+        <source>Goes to %1</source>
+        <translation>上传至 %1</translation>
+    </message>
+    <message>
+        <source>The project has been uploaded.</source>
+        <translation>项目已上传。</translation>
+    </message>
+    <message>
+        <source>The upload failed: the service cannot be reached or did not take the project.</source>
+        <translation>上传失败：无法连接服务端，或服务端未接收该项目。</translation>
+    </message>
+    <message>
+        <source>The upload failed: the service does not know the current user.</source>
+        <translation>上传失败：服务端无法识别当前用户。</translation>
+    </message>
+</context>
+<context>
+    <name>UploadNames</name>
+    <message>
+        <source>Project name</source>
+        <translation>项目名称</translation>
+    </message>
+    <message>
+        <source>Block name</source>
+        <translation>测区名称</translation>
+    </message>
+    <message>
+        <source>Task name</source>
+        <translation>任务名称</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Latitude (°)</source>
+        <translation>纬度（°）</translation>
+    </message>
+    <message>
+        <source>Longitude (°)</source>
+        <translation>经度（°）</translation>
+    </message>
+    <message>
+        <source>User</source>
+        <translation>用户</translation>
+    </message>
+    <message>
+        <source>Created</source>
+        <translation>创建时间</translation>
+    </message>
+    <message>
+        <source>Changed</source>
+        <translation>修改时间</translation>
+    </message>
+    <message>
+        <source>Map scale 1 :</source>
+        <translation>成图比例尺 1 :</translation>
+    </message>
+    <message>
+        <source>Latitude of the centre (°)</source>
+        <translation>中心点纬度（°）</translation>
+    </message>
+    <message>
+        <source>Longitude of the centre (°)</source>
+        <translation>中心点经度（°）</translation>
+    </message>
+    <message>
+        <source>Software version</source>
+        <translation>软件版本</translation>
+    </message>
+    <message>
+        <source>File version</source>
+        <translation>文件版本</translation>
+    </message>
+    <message>
+        <source>Aircraft</source>
+        <translation>飞机类型</translation>
+    </message>
+    <message>
+        <source>Camera</source>
+        <translation>相机类型</translation>
+    </message>
+    <message>
+        <source>Kind of block</source>
+        <translation>测区类型</translation>
+    </message>
+    <message>
+        <source>Kind of task</source>
+        <translation>任务类型</translation>
+    </message>
+    <message>
+        <source>Outline (lat,lng)</source>
+        <translation>测区边界（纬度,经度）</translation>
+    </message>
+    <message>
+        <source>Flight height above ground (m)</source>
+        <translation>相对航高（m）</translation>
+    </message>
+    <message>
+        <source>Airspeed (m/s)</source>
+        <translation>空速（m/s）</translation>
+    </message>
+    <message>
+        <source>Direction of flight lines (°)</source>
+        <translation>航线角度（°）</translation>
+    </message>
+    <message>
+        <source>Strip width to the left (m)</source>
+        <translation>左侧带宽（m）</translation>
+    </message>
+    <message>
+        <source>Strip width to the right (m)</source>
+        <translation>右侧带宽（m）</translation>
+    </message>
+    <message>
+        <source>Routes there and back</source>
+        <translation>往返航线</translation>
+    </message>
+    <message>
+        <source>Expected routes</source>
+        <translation>期望航线数</translation>
+    </message>
+    <message>
+        <source>Expected missions</source>
+        <translation>期望架次数</translation>
+    </message>
+    <message>
+        <source>With transfer points</source>
+        <translation>包含转场点</translation>
+    </message>
+    <message>
+        <source>With frame routes</source>
+        <translation>生成构架航线</translation>
+    </message>
+    <message>
+        <source>Photographs beyond the block</source>
+        <translation>航向外扩像片数</translation>
+    </message>
+    <message>
+        <source>Routes beyond the block</source>
+        <translation>旁向外扩航线数</translation>
+    </message>
+    <message>
+        <source>Routes joined</source>
+        <translation>连接航线</translation>
+    </message>
+    <message>
+        <source>Flight direction</source>
+        <translation>飞行方向</translation>
+    </message>
+    <message>
+        <source>Distance of one task (km)</source>
+        <translation>单任务里程（km）</translation>
+    </message>
+    <message>
+        <source>Margin around the block (m)</source>
+        <translation>环绕外扩距离（m）</translation>
+    </message>
+    <message>
+        <source>Tilt mode</source>
+        <translation>倾斜俯仰模式</translation>
+    </message>
+    <message>
+        <source>Tilt of the camera (°)</source>
+        <translation>倾斜俯仰角（°）</translation>
+    </message>
+    <message>
+        <source>Height mode of the routes</source>
+        <translation>航线高度模式</translation>
+    </message>
+    <message>
+        <source>Camera orientation</source>
+        <translation>相机朝向</translation>
+    </message>
+    <message>
+        <source>Trigger mode</source>
+        <translation>曝光模式</translation>
+    </message>
+    <message>
+        <source>Outermost route to edge (m)</source>
+        <translation>最外航线距边界（m）</translation>
+    </message>
+    <message>
+        <source>Terrain mode</source>
+        <translation>仿地模式</translation>
+    </message>
+    <message>
+        <source>Lowest route height (m)</source>
+        <translation>航线最低高度（m）</translation>
+    </message>
+    <message>
+        <source>Object height (m)</source>
+        <translation>目标物高度（m）</translation>
+    </message>
+    <message>
+        <source>Picture</source>
+        <translation>缩略图</translation>
+    </message>
+    <message>
+        <source>Id</source>
+        <translation>编号</translation>
+    </message>
+    <message>
+        <source>Block id</source>
+        <translation>测区编号</translation>
+    </message>
+    <message>
+        <source>Task id</source>
+        <translation>任务编号</translation>
+    </message>
+    <message>
+        <source>Id of the project</source>
+        <translation>所属项目编号</translation>
+    </message>
+    <message>
+        <source>Id of the block</source>
+        <translation>所属测区编号</translation>
+    </message>
+    <message>
+        <source>Blocks</source>
+        <translation>测区</translation>
+    </message>
+    <message>
+        <source>Tasks</source>
+        <translation>任务</translation>
+    </message>
+    <message>
+        <source>Marker points</source>
+        <translation>标志点</translation>
+    </message>
+    <message>
+        <source>Tasks: %1</source>
+        <translation>任务：%1</translation>
+    </message>
+    <message>
+        <source>Block %1</source>
+        <translation>测区 %1</translation>
+    </message>
+    <message>
+        <source>Task %1</source>
+        <translation>任务 %1</translation>
+    </message>
+    <message>
+        <source>Point %1</source>
+        <translation>标志点 %1</translation>
+    </message>
+    <message>
+        <source>%1… (%2 characters)</source>
+        <translation>%1……（共 %2 个字符）</translation>
+    </message>
+    <message>
+        <source>Blocks: %1, tasks: %2, marker points: %3. Size: %4.</source>
+        <translation>测区：%1，任务：%2，标志点：%3。大小：%4。</translation>
+    </message>
+</context>
+<context>
+    <name>UploadTreeModel</name>
+    <message>
+        <source>Entry</source>
+        <translation>项</translation>
+    </message>
+    <message>
+        <source>Value</source>
+        <translation>值</translation>
     </message>
 </context>
 <context>

@@ -10,6 +10,7 @@
 #include <QEvent>
 #include <QFormLayout>
 #include <QFrame>
+#include <QHBoxLayout>
 #include <QHeaderView>
 #include <QLabel>
 #include <QLocale>
@@ -42,6 +43,15 @@ QPushButton {
 QPushButton:hover { background-color: rgb(92, 158, 250); }
 QPushButton:pressed { background-color: rgb(38, 108, 208); }
 QPushButton:focus { border: 2px solid rgb(4, 21, 46); padding: 7px 16px; }
+QPushButton[role="secondary"] {
+    color: rgb(38, 98, 192); background-color: white; border: 1px solid rgb(178, 200, 234);
+    padding: 8px 10px; font-size: 12px;
+}
+QPushButton[role="secondary"]:hover { background-color: rgb(238, 245, 255); }
+QPushButton[role="secondary"]:pressed { background-color: rgb(222, 234, 252); }
+QPushButton[role="secondary"]:focus {
+    border: 2px solid rgb(58, 136, 244); padding: 7px 9px;
+}
 QTreeWidget {
     background-color: white; alternate-background-color: rgb(247, 249, 252);
     border: 1px solid rgb(226, 232, 240); border-radius: 4px; font-size: 13px;
@@ -70,6 +80,14 @@ QLabel* makeLabel(const char* role, QWidget* parent)
     label->setTextFormat(Qt::PlainText);
     label->setWordWrap(true);
     return label;
+}
+
+QPushButton* makeSecondary(QWidget* parent)
+{
+    auto* button = new QPushButton(parent);
+    button->setProperty("role", QStringLiteral("secondary"));
+    button->setCursor(Qt::PointingHandCursor);
+    return button;
 }
 
 QWidget* makeLine(QWidget* parent)
@@ -114,6 +132,7 @@ QWidget* BlockPanel::makeEmptyPage()
     m_emptyText = makeLabel("note", page);
     m_emptyText->setAlignment(Qt::AlignCenter);
     m_open = new QPushButton(page);
+    m_open->setObjectName(QStringLiteral("openProject"));
     m_open->setCursor(Qt::PointingHandCursor);
     connect(m_open, &QPushButton::clicked, this, &BlockPanel::projectsWanted);
     auto* layout = new QVBoxLayout(page);
@@ -173,7 +192,24 @@ QWidget* BlockPanel::makeBlockPage()
     layout->addWidget(m_totals);
     layout->addSpacing(4);
     layout->addWidget(m_tasks, 1);
+    layout->addSpacing(8);
+    layout->addLayout(makeActions(page));
     return page;
+}
+
+QHBoxLayout* BlockPanel::makeActions(QWidget* page)
+{
+    m_lift = makeSecondary(page);
+    m_upload = makeSecondary(page);
+    m_lift->setObjectName(QStringLiteral("applyForLift"));
+    m_upload->setObjectName(QStringLiteral("uploadProject"));
+    connect(m_lift, &QPushButton::clicked, this, &BlockPanel::liftWanted);
+    connect(m_upload, &QPushButton::clicked, this, &BlockPanel::uploadWanted);
+    auto* layout = new QHBoxLayout;
+    layout->setSpacing(8);
+    layout->addWidget(m_lift, 1);
+    layout->addWidget(m_upload, 1);
+    return layout;
 }
 
 void BlockPanel::addRow(QFormLayout* form)
@@ -237,6 +273,10 @@ void BlockPanel::retranslate()
     m_tasks->setAccessibleName(tr("Tasks and flights"));
     m_tasks->setHeaderLabels({tr("Task"), tr("Flights")});
     m_tasks->headerItem()->setTextAlignment(1, Qt::AlignRight | Qt::AlignVCenter);
+    m_lift->setText(tr("Apply for no-fly lift"));
+    m_lift->setToolTip(tr("Apply to fly the block inside a no-fly zone"));
+    m_upload->setText(tr("Upload project"));
+    m_upload->setToolTip(tr("Look at the whole project and send it to the web service"));
     fillTasks();
 }
 

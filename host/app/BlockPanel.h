@@ -11,6 +11,7 @@
 
 class ElidedLabel;
 class QFormLayout;
+class QHBoxLayout;
 class QLabel;
 class QPushButton;
 class QStackedWidget;
@@ -31,9 +32,19 @@ public:
                    const ProjectContent& content);
     void showNothing();
 
+    /// What was shown last.
+    const CRkOpenedProjectInfo& project() const { return m_project; }
+    const QString& blockId() const { return m_blockId; }
+    /// Its id where the project does not tell a name.
+    QString blockName() const;
+
 Q_SIGNALS:
     /// The user wants to choose a project.
     void projectsWanted();
+    /// The user wants to send the project to the web service.
+    void uploadWanted();
+    /// The user wants to fly the block inside a no-fly zone.
+    void liftWanted();
 
 protected:
     void changeEvent(QEvent* event) override;
@@ -41,11 +52,10 @@ protected:
 private:
     QWidget* makeEmptyPage();
     QWidget* makeBlockPage();
+    QHBoxLayout* makeActions(QWidget* page);
     void addRow(QFormLayout* form);
     void retranslate();
     void fillTasks();
-    /// Its id where the project does not tell a name.
-    QString blockName() const;
 
     CRkOpenedProjectInfo m_project;
     QString m_blockId;
@@ -64,4 +74,6 @@ private:
     QVector<QLabel*> m_rowTitles;
     QVector<ElidedLabel*> m_rowValues;
     QTreeWidget* m_tasks = nullptr;
+    QPushButton* m_lift = nullptr;
+    QPushButton* m_upload = nullptr;
 };

@@ -70,5 +70,6 @@ QVector<Gallery::Entry> galleryWindows()
     };
     return pages + galleryHost() + gallerySurvey() + galleryProjects() + galleryCity() + galleryDates()
         + galleryBlocks() + galleryCalculators() + galleryTools() + galleryLight() + galleryNoFly()
+        + galleryUpload()
         + galleryDialogs() + galleryControls() + galleryPictures() + galleryMessages();
 }

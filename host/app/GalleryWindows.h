@@ -40,6 +40,9 @@ QVector<Gallery::Entry> galleryTools();
 /// Of these, the host's main window while the survey tools work on its pages.
 QVector<Gallery::Entry> gallerySurvey();
 
+/// Of these, what is sent of an opened project to the web service.
+QVector<Gallery::Entry> galleryUpload();
+
 /// Of these, sheets of controls in their states.
 QVector<Gallery::Entry> galleryControls();
 

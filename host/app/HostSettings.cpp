@@ -3,6 +3,7 @@
 
 #include "app/HostSettings.h"
 
+#include <RkAlgorthm/ReferenceSettings.h>
 #include <RkAlgorthm/RkAlgorthm.h>
 #include <RkBaseUI/SharedHelpers.h>
 #include <RkData/ReferenceSettings.h>
@@ -34,6 +35,7 @@ void setCurrentUser(const QString& userId)
     QSettings settings(OrganizationName, CloundApplicationName);
     settings.beginGroup(UserInfoGroupName);
     settings.setValue(UserInfoUserID, userId);
+    SetCurUserInfo({qEnvironmentVariable("RK_SERVER_TOKEN", userId), userId, QString()});
 }
 
 QString currentUser()

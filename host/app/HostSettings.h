@@ -11,7 +11,9 @@ namespace HostSettings {
 /// The folder that holds the projects.
 void setProjectRoot(const QString& folder);
 
-/// Whose projects are shown. Written to the settings, where the library reads it.
+/// Whose projects are shown, and who sends something to the web service. Written to the settings,
+/// where the library reads it. The token of his login is what RK_SERVER_TOKEN has in the
+/// environment; without that his id, because this application has no login of its own.
 void setCurrentUser(const QString& userId);
 
 /// Empty when there is none.

@@ -9,6 +9,7 @@
 #include "app/LightPanel.h"
 #include "app/MapPanel.h"
 #include "app/ProjectContent.h"
+#include "app/ProjectUploads.h"
 #include "app/SurveyTools.h"
 #include "app/TerrainPanel.h"
 #include "app/UserBox.h"
@@ -269,6 +270,8 @@ void HostWindow::makeDock()
     m_block = new BlockPanel(this);
     m_block->setFixedWidth(panelWidth);
     connect(m_block, &BlockPanel::projectsWanted, this, &HostWindow::openProjects);
+    auto* uploads = new ProjectUploads(m_map, m_block, this);
+    connect(uploads, &ProjectUploads::reported, m_surveyTools, &SurveyTools::setResult);
     m_dock = new QDockWidget(this);
     m_dock->setFeatures(QDockWidget::NoDockWidgetFeatures);
     m_dock->setTitleBarWidget(new QWidget(m_dock)); // The panel says itself what it is.

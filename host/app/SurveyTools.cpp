@@ -6,6 +6,7 @@
 #include "app/AngleText.h"
 #include "app/LightPanel.h"
 #include "app/MapPanel.h"
+#include "app/OverWindow.h"
 #include "app/TerrainPanel.h"
 #include "map/MapProjection.h"
 #include "map/ScaleBar.h"
@@ -132,8 +133,7 @@ void SurveyTools::openLight()
 /// The dialogs that run are windows of their own, without a parent to stand over.
 int SurveyTools::runOverWindow(CRkBaseDialog& dialog) const
 {
-    dialog.adjustSize();
-    dialog.move(m_window->mapToGlobal(m_window->rect().center()) - dialog.rect().center());
+    placeOverWindow(dialog, *m_window);
     return dialog.exec();
 }
 

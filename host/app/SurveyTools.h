@@ -40,6 +40,8 @@ public Q_SLOTS:
     void computeAntennaHeight();
     /// Asks for a place, beginning with the middle of the map.
     void convertCoordinates();
+    /// Another tool of the window has a result.
+    void setResult(std::function<QString()> result);
 
 Q_SIGNALS:
     /// A grid is about to be laid, which the user then moves: the terrain is to be seen and to get
@@ -50,7 +52,6 @@ Q_SIGNALS:
 
 private:
     int runOverWindow(CRkBaseDialog& dialog) const;
-    void setResult(std::function<QString()> result);
 
     MapPanel* const m_map;
     TerrainPanel* const m_terrain;

@@ -124,10 +124,10 @@ int runWindow(const Options& options)
     }
     if (!options.projects.isEmpty())
         HostSettings::setProjectRoot(options.projects);
-    if (!options.userId.isEmpty())
-        HostSettings::setCurrentUser(options.userId);
-    else if (HostSettings::currentUser().isEmpty())
-        HostSettings::setCurrentUser(sampleUserId());
+    QString userId = options.userId.isEmpty() ? HostSettings::currentUser() : options.userId;
+    if (userId.isEmpty())
+        userId = sampleUserId();
+    HostSettings::setCurrentUser(userId); // The last run's too: he is not logged in yet.
     HostWindow window;
     placeOnScreen(window);
     window.show();

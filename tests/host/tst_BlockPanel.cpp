@@ -192,7 +192,7 @@ void tst_BlockPanel::startsWithNothing()
     panel.show();
     QSignalSpy wanted(&panel, &BlockPanel::projectsWanted);
     QVERIFY(!panel.findChild<QTreeWidget*>()->isVisible());
-    auto* open = panel.findChild<QPushButton*>();
+    auto* open = panel.findChild<QPushButton*>(QStringLiteral("openProject"));
     QVERIFY(open->isVisible());
     open->click();
     QCOMPARE(wanted.size(), 1);

@@ -219,7 +219,9 @@ void tst_Gallery::programShowsEveryWindow()
           "coordinates-refused", "earthwork-empty", "earthwork-custom", "earthwork-computed", "nofly",
           "nofly-empty", "nofly-no-document", "nofly-no-name", "nofly-no-duration",
           "nofly-upload-start", "nofly-upload", "nofly-upload-failed", "nofly-upload-retry",
-          "nofly-upload-no-login", "nofly-upload-finished"})
+          "nofly-upload-no-login", "nofly-upload-finished", "host-lift", "host-upload",
+          "upload-ready", "upload-tree", "upload-empty", "upload-running", "upload-done",
+          "upload-failed", "upload-no-login"})
         QVERIFY2(run.files.contains(file(QLatin1String(name), language, scale)), name);
     QSet<QByteArray> contents;
     for (const QString& path : run.files) {

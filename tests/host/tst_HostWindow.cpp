@@ -265,7 +265,7 @@ void tst_HostWindow::projectsButtonOpensTheDialog()
     QVERIFY(dialog->getProjectManagerWidget()->isVisible());
     dialog->close();
     QTRY_VERIFY(!m_window->projectsDialog());
-    m_window->blockPanel()->findChild<QPushButton*>()->click();
+    m_window->blockPanel()->findChild<QPushButton*>(QStringLiteral("openProject"))->click();
     QVERIFY(m_window->projectsDialog());
 }
 
