@@ -435,12 +435,175 @@
         <source>Show the whole country</source>
         <translation>显示全国</translation>
     </message>
+    <message>
+        <source>Show where I am</source>
+        <translation>定位到我的位置</translation>
+    </message>
+    <message>
+        <source>Draw an outline</source>
+        <translation>绘制范围线</translation>
+    </message>
 </context>
 <context>
     <name>MapPanel</name>
     <message>
         <source>Map</source>
         <translation>地图</translation>
+    </message>
+</context>
+<context>
+    <name>MapPlaces</name>
+    <message>
+        <source>You are here</source>
+        <translation>当前位置</translation>
+    </message>
+</context>
+<context>
+    <name>OutlinePlate</name>
+    <message>
+        <source>Vertices: %1</source>
+        <translation>顶点数：%1</translation>
+    </message>
+    <message>
+        <source>Outline</source>
+        <translation>范围线</translation>
+    </message>
+    <message>
+        <source>Remove the outline (Esc)</source>
+        <translation>清除范围线（Esc）</translation>
+    </message>
+    <message>
+        <source>Remove the outline</source>
+        <translation>清除范围线</translation>
+    </message>
+    <message>
+        <source>Largest part</source>
+        <translation>分区面积上限</translation>
+    </message>
+    <message>
+        <source>Largest part, square kilometres</source>
+        <translation>分区面积上限，平方千米</translation>
+    </message>
+    <message>
+        <source>Check outline</source>
+        <translation>检查范围线</translation>
+    </message>
+    <message>
+        <source>Segment</source>
+        <translation>分割</translation>
+    </message>
+</context>
+<context>
+    <name>OutlineTexts</name>
+    <message>
+        <source>Crosses itself</source>
+        <translation>自相交</translation>
+    </message>
+    <message>
+        <source>Perimeter %1</source>
+        <translation>周长 %1</translation>
+    </message>
+    <message>
+        <source>Convex</source>
+        <translation>凸多边形</translation>
+    </message>
+    <message>
+        <source>Not convex</source>
+        <translation>凹多边形</translation>
+    </message>
+    <message>
+        <source>Does not cross itself</source>
+        <translation>无自相交</translation>
+    </message>
+    <message>
+        <source>Area %1, perimeter %2</source>
+        <translation>面积 %1，周长 %2</translation>
+    </message>
+    <message>
+        <source>Can be split into parts up to %1</source>
+        <translation>可按不超过 %1 分割</translation>
+    </message>
+    <message>
+        <source>Cannot be split while it crosses itself</source>
+        <translation>自相交，无法分割</translation>
+    </message>
+    <message>
+        <source>Need not be split: no larger than one part of %1</source>
+        <translation>无需分割：面积未超过 %1</translation>
+    </message>
+    <message>
+        <source>Cannot be split: edges lie on one another</source>
+        <translation>边线重叠，无法分割</translation>
+    </message>
+    <message>
+        <source>Cannot be split into parts as small as that</source>
+        <translation>分区面积上限过小，无法分割</translation>
+    </message>
+    <message>
+        <source>%1 parts, the largest %2</source>
+        <translation>已分割为 %1 个分区，最大 %2</translation>
+    </message>
+</context>
+<context>
+    <name>OutlineTool</name>
+    <message>
+        <source>The outline is closed. Check it, or split it into parts.</source>
+        <translation>范围线已闭合，可进行检查或分割。</translation>
+    </message>
+    <message>
+        <source>Click on the map to add a vertex; Backspace takes it back.</source>
+        <translation>单击地图添加顶点，按退格键撤销。</translation>
+    </message>
+    <message>
+        <source>A double click or Enter closes the outline, Esc removes it.</source>
+        <translation>双击或按回车键闭合，按 Esc 键清除。</translation>
+    </message>
+    <message>
+        <source>An outline needs at least three vertices.</source>
+        <translation>范围线至少需要三个顶点。</translation>
+    </message>
+    <message>
+        <source>The outline lies too far north or south to be measured.</source>
+        <translation>范围线纬度过高，无法量算。</translation>
+    </message>
+</context>
+<context>
+    <name>PlaceSearchBox</name>
+    <message>
+        <source>Searching…</source>
+        <translation>正在搜索…</translation>
+    </message>
+    <message>
+        <source>Finding your location…</source>
+        <translation>正在定位…</translation>
+    </message>
+    <message>
+        <source>No place found for &quot;%1&quot;</source>
+        <translation>未找到与“%1”匹配的地点</translation>
+    </message>
+    <message>
+        <source>The web service does not answer</source>
+        <translation>网络服务无响应，无法搜索</translation>
+    </message>
+    <message>
+        <source>Your location is not known: the web service does not answer</source>
+        <translation>网络服务无响应，无法定位</translation>
+    </message>
+    <message>
+        <source>Search for a place</source>
+        <translation>搜索地点</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>搜索</translation>
+    </message>
+    <message>
+        <source>Places found</source>
+        <translation>搜索结果</translation>
+    </message>
+    <message>
+        <source>Clear</source>
+        <translation>清空</translation>
     </message>
 </context>
 <context>

@@ -28,7 +28,7 @@ namespace {
 constexpr int locationLimit = 3000; // ms
 constexpr int searchLimit = 5000; // ms
 /// A reply without end is not read any further, and so reaches the limit of time.
-constexpr qint64 largestReply = 32 * 1024 * 1024;
+constexpr qint64 largestReply = qint64(32) * 1024 * 1024;
 
 /// What the service has sent when the reply ends or the limit, in milliseconds, has passed.
 QByteArray get(const QString& path, int limit)

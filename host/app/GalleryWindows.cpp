@@ -68,8 +68,8 @@ QVector<Gallery::Entry> galleryWindows()
         {QStringLiteral("view-keyword"), viewPage, filterByKeyword},
         {QStringLiteral("view-city"), viewPage, filterByCity},
     };
-    return pages + galleryHost() + gallerySurvey() + galleryProjects() + galleryCity() + galleryDates()
-        + galleryBlocks() + galleryCalculators() + galleryTools() + galleryLight() + galleryNoFly()
-        + galleryUpload()
+    return pages + galleryHost() + galleryService() + galleryUpload() + gallerySurvey()
+        + galleryProjects() + galleryCity() + galleryDates() + galleryBlocks()
+        + galleryCalculators() + galleryTools() + galleryLight() + galleryNoFly()
         + galleryDialogs() + galleryControls() + galleryPictures() + galleryMessages();
 }

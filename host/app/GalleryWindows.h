@@ -40,6 +40,9 @@ QVector<Gallery::Entry> galleryTools();
 /// Of these, the host's main window while the survey tools work on its pages.
 QVector<Gallery::Entry> gallerySurvey();
 
+/// Of these, the host's main window with places that were found and outlines that were drawn.
+QVector<Gallery::Entry> galleryService();
+
 /// Of these, what is sent of an opened project to the web service.
 QVector<Gallery::Entry> galleryUpload();
 

@@ -173,6 +173,50 @@ QPainterPath turn()
     return path;
 }
 
+QPainterPath lens()
+{
+    QPainterPath path;
+    path.addEllipse(QPointF(8.6, 8.6), 5.1, 5.1);
+    path.addPath(lines({{12.4, 12.4, 16.6, 16.6}}));
+    return path;
+}
+
+QPainterPath pin()
+{
+    QPainterPath path(QPointF(10, 17.5));
+    path.cubicTo(6.2, 12.8, 4.6, 10.6, 4.6, 8);
+    path.arcTo(QRectF(4.6, 2.6, 10.8, 10.8), 180, -180);
+    path.cubicTo(15.4, 10.6, 13.8, 12.8, 10, 17.5);
+    path.addEllipse(QPointF(10, 8), 1.9, 1.9);
+    return path;
+}
+
+/// A ring with marks outside and a dot inside.
+QPainterPath target()
+{
+    QPainterPath path;
+    path.addEllipse(QPointF(10, 10), 5.4, 5.4);
+    path.addEllipse(QPointF(10, 10), 1.4, 1.4);
+    path.addPath(lines(
+        {{10, 2.2, 10, 4.6}, {10, 15.4, 10, 17.8}, {2.2, 10, 4.6, 10}, {15.4, 10, 17.8, 10}}));
+    return path;
+}
+
+/// A polygon with its vertices.
+QPainterPath outline()
+{
+    const QPolygonF corners({{4.4, 8}, {11.6, 4.2}, {15.8, 11}, {7.4, 15.8}});
+    constexpr double dot = 1.7;
+    QPainterPath path;
+    for (int i = 0; i < corners.size(); ++i) {
+        const QLineF edge(corners[i], corners[(i + 1) % corners.size()]);
+        path.addEllipse(corners[i], dot, dot);
+        path.moveTo(edge.pointAt(dot / edge.length()));
+        path.lineTo(edge.pointAt(1 - dot / edge.length()));
+    }
+    return path;
+}
+
 QPainterPath drawing(Shape shape)
 {
     switch (shape) {
@@ -209,6 +253,16 @@ QPainterPath drawing(Shape shape)
         return crossHairs();
     case Shape::Turn:
         return turn();
+    case Shape::Search:
+        return lens();
+    case Shape::Pin:
+        return pin();
+    case Shape::Locate:
+        return target();
+    case Shape::Outline:
+        return outline();
+    case Shape::Close:
+        return lines({{5.5, 5.5, 14.5, 14.5}, {14.5, 5.5, 5.5, 14.5}});
     }
     return {};
 }

@@ -27,7 +27,12 @@ enum class Shape {
     Light,
     Antenna,
     Coordinates,
-    Turn
+    Turn,
+    Search,
+    Pin,
+    Locate,
+    Outline,
+    Close
 };
 
 /// The drawing in one colour, 20 pixels wide at every scale of the screen.

@@ -26,7 +26,9 @@ MapButtons::MapButtons(QWidget* parent)
                                Button{Shape::Minus, &MapButtons::zoomOutClicked},
                                Button{Shape::Block, &MapButtons::blockClicked},
                                Button{Shape::Project, &MapButtons::projectClicked},
-                               Button{Shape::Country, &MapButtons::countryClicked}}) {
+                               Button{Shape::Country, &MapButtons::countryClicked},
+                               Button{Shape::Locate, &MapButtons::locateClicked},
+                               Button{Shape::Outline, &MapButtons::outlineClicked}}) {
         auto* button = new QToolButton(this);
         button->setIcon(HostIcons::icon(made.shape, QColor(44, 60, 90)));
         button->setIconSize(QSize(20, 20));
@@ -36,7 +38,11 @@ MapButtons::MapButtons(QWidget* parent)
         layout->addWidget(button);
         m_buttons.append(button);
     }
+    layout->insertSpacing(6, 8); // Between the places and what is drawn.
     layout->insertSpacing(2, 8); // Between the zoom and the places to go to.
+    m_buttons[5]->setObjectName(QStringLiteral("locate"));
+    m_buttons[6]->setObjectName(QStringLiteral("outline"));
+    m_buttons[6]->setCheckable(true);
     setStyleSheet(QString::fromLatin1(PlateStyle::styleSheet));
     retranslate();
 }
@@ -51,6 +57,11 @@ void MapButtons::setProjectEnabled(bool isEnabled)
     m_buttons[3]->setEnabled(isEnabled);
 }
 
+void MapButtons::setOutlineChecked(bool isChecked)
+{
+    m_buttons[6]->setChecked(isChecked);
+}
+
 void MapButtons::changeEvent(QEvent* event)
 {
     if (event->type() == QEvent::LanguageChange)
@@ -61,7 +72,8 @@ void MapButtons::changeEvent(QEvent* event)
 void MapButtons::retranslate()
 {
     const QStringList texts = {tr("Zoom in"), tr("Zoom out"), tr("Show the block"),
-                               tr("Show all blocks of the project"), tr("Show the whole country")};
+                               tr("Show all blocks of the project"), tr("Show the whole country"),
+                               tr("Show where I am"), tr("Draw an outline")};
     for (int i = 0; i < m_buttons.size(); ++i) {
         m_buttons[i]->setToolTip(texts[i]);
         m_buttons[i]->setAccessibleName(texts[i]);

@@ -18,6 +18,8 @@ public:
 
     void setBlockEnabled(bool isEnabled);
     void setProjectEnabled(bool isEnabled);
+    /// Whether an outline is being drawn.
+    void setOutlineChecked(bool isChecked);
 
 Q_SIGNALS:
     void zoomInClicked();
@@ -25,6 +27,8 @@ Q_SIGNALS:
     void blockClicked();
     void projectClicked();
     void countryClicked();
+    void locateClicked();
+    void outlineClicked();
 
 protected:
     void changeEvent(QEvent* event) override;

@@ -11,13 +11,13 @@
 
 #include <QFontMetricsF>
 #include <QHash>
+#include <QLineF>
 #include <QPainter>
 #include <QPainterPath>
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <optional>
 
 namespace {
 
@@ -37,6 +37,7 @@ const QColor cityName(58, 72, 98);
 constexpr double fineTolerance = 0.4;
 constexpr double draftTolerance = 1.2;
 constexpr double halo = 1.5; // Pixels around a name.
+constexpr double freeRadius = 40; // Pixels without the name of a place.
 constexpr double overhang = 8; // Pixels that lines reach over what is drawn.
 
 /// The way from one view to another in whole pixels of the screen; nothing when there is none.
@@ -118,6 +119,12 @@ void MapCanvas::renewNames(bool isChinese, const QFont& font)
         name.text = nameInLanguage(name.text, isChinese);
         m_plates.append({QFontMetricsF(fontOf(name)).size(Qt::TextSingleLine, name.text), {}});
     }
+    m_picture = {};
+}
+
+void MapCanvas::leaveFree(const std::optional<QPointF>& place)
+{
+    m_free = place;
     m_picture = {};
 }
 
@@ -264,6 +271,8 @@ void MapCanvas::drawNames(QPainter& painter, const QRectF& rectangle)
     painter.setBrush(cityName);
     for (int i : qAsConst(m_chosen)) {
         const QPointF place = m_view.toScreen(m_names[i].place);
+        if (m_free && QLineF(place, m_view.toScreen(*m_free)).length() < freeRadius)
+            continue;
         const QRectF name = nameRect(m_names[i], m_plates[i].size, place);
         if (!name.adjusted(-overhang, -overhang, overhang, overhang).intersects(rectangle))
             continue;

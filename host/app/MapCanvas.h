@@ -11,6 +11,8 @@
 #include <QPixmap>
 #include <QVector>
 
+#include <optional>
+
 class QPainter;
 
 /// The map below everything that a project puts on it: land, borders, the grid of degrees and the
@@ -36,6 +38,9 @@ public:
     /// Writes the names in the language of the texts anew.
     void renewNames(bool isChinese, const QFont& font);
 
+    /// Writes no name close to a point of the plane, where something else stands.
+    void leaveFree(const std::optional<QPointF>& place);
+
 private:
     /// A name as it is put on the map, made when it is first needed.
     struct Plate
@@ -59,6 +64,7 @@ private:
     QVector<Plate> m_plates; ///< Of the names.
     QFont m_font;
     QVector<int> m_chosen; ///< The names to show at the scale of the picture.
+    std::optional<QPointF> m_free; ///< On the plane.
     MapView m_view;
     Quality m_quality = Quality::Fine;
     QPixmap m_picture;

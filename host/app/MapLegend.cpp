@@ -72,16 +72,17 @@ void drawScale(QPainter& painter, const QRect& rectangle, double metresPerPixel,
     painter.restore();
 }
 
-void drawGridTexts(QPainter& painter, const MapView& view, double foot)
+void drawGridTexts(QPainter& painter, const MapView& view, const QRectF& covered, double foot)
 {
     painter.save();
     painter.setFont(smallFont(painter, 10));
     painter.setPen(faint);
     for (const GridLine& line : gridLines(view)) {
         const QPointF at = view.toScreen(QPointF(line.position, line.position));
-        if (line.isMeridian && at.x() < view.size.width() - buttonColumn - 50)
+        if (line.isMeridian && at.x() > covered.right()
+            && at.x() < view.size.width() - buttonColumn - 50)
             painter.drawText(QPointF(at.x() + 4, 13), line.text);
-        else if (!line.isMeridian && at.y() > 40 && at.y() < foot - 10)
+        else if (!line.isMeridian && at.y() > covered.bottom() + 18 && at.y() < foot - 10)
             painter.drawText(QPointF(4, at.y() - 4), line.text);
     }
     painter.restore();

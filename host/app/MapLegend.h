@@ -26,7 +26,8 @@ void draw(QPainter& painter, const QRect& rectangle, const MapView& view,
 void drawScale(QPainter& painter, const QRect& rectangle, double metresPerPixel,
                const QString& coordinates);
 
-/// The degrees of the grid's lines along the upper and the left edge, and nothing below `foot`.
-void drawGridTexts(QPainter& painter, const MapView& view, double foot);
+/// The degrees of the grid's lines along the upper and the left edge, and nothing where something
+/// covers the corner between them or below `foot`.
+void drawGridTexts(QPainter& painter, const MapView& view, const QRectF& covered, double foot);
 
 } // namespace MapLegend

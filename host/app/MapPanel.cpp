@@ -6,10 +6,16 @@
 #include "app/HostSettings.h"
 #include "app/MapButtons.h"
 #include "app/MapLegend.h"
+#include "app/MapPlaces.h"
+#include "app/OutlinePlate.h"
+#include "app/OutlineTool.h"
+#include "app/PlaceSearchBox.h"
 #include "map/MapProjection.h"
 #include "map/ScaleBar.h"
 
+#include <QApplication>
 #include <QEvent>
+#include <QHBoxLayout>
 #include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
@@ -28,11 +34,16 @@ constexpr double notch = 120; // Of a wheel, in the units of its events.
 constexpr double keyStep = 80; // Pixels.
 constexpr double countryMargin = 56; // Pixels.
 constexpr int border = 12; // Pixels between the panel's edge and what lies on it.
+constexpr int plateWidth = 300; // Pixels.
+constexpr double placeScale = 1 << 20; // Of a map that shows a city, pixels to a unit of the plane.
+constexpr double sameVertex = 4; // Pixels within which two clicks are at one place.
 
 } // namespace
 
 MapPanel::MapPanel(QWidget* parent)
     : QWidget(parent)
+    , m_places(new MapPlaces(this))
+    , m_outline(new OutlineTool(this))
     , m_buttons(new MapButtons(this))
 {
     setMouseTracking(true);
@@ -49,16 +60,53 @@ MapPanel::MapPanel(QWidget* parent)
         update();
     });
     connect(&m_glide, &QVariantAnimation::finished, this, qOverload<>(&MapPanel::update));
-    auto* layout = new QVBoxLayout(this);
+    auto* plates = new QVBoxLayout;
+    plates->setSpacing(6);
+    plates->addWidget(m_places->box());
+    plates->addWidget(m_outline->plate());
+    plates->addStretch();
+    for (QWidget* plate : std::initializer_list<QWidget*>{m_places->box(), m_outline->plate()})
+        plate->setFixedWidth(plateWidth);
+    auto* layout = new QHBoxLayout(this);
     layout->setContentsMargins(border, border, border, border);
-    layout->addWidget(m_buttons, 0, Qt::AlignRight | Qt::AlignTop);
+    layout->setSpacing(0);
+    layout->addLayout(plates);
+    layout->addStretch();
+    layout->addWidget(m_buttons, 0, Qt::AlignTop);
+    connectTools();
+    setBlocks({});
+    retranslate();
+}
+
+void MapPanel::connectTools()
+{
     connect(m_buttons, &MapButtons::zoomInClicked, this, &MapPanel::zoomIn);
     connect(m_buttons, &MapButtons::zoomOutClicked, this, &MapPanel::zoomOut);
     connect(m_buttons, &MapButtons::blockClicked, this, &MapPanel::showBlock);
     connect(m_buttons, &MapButtons::projectClicked, this, &MapPanel::showProject);
     connect(m_buttons, &MapButtons::countryClicked, this, &MapPanel::showCountry);
-    setBlocks({});
-    retranslate();
+    connect(m_buttons, &MapButtons::locateClicked, m_places, &MapPlaces::locate);
+    connect(m_buttons, &MapButtons::outlineClicked, this, &MapPanel::toggleOutline);
+    connect(m_places->box(), &PlaceSearchBox::placePicked, this,
+            [this] { setFocus(); }); // To go on from there.
+    connect(m_places, &MapPlaces::placeChosen, this, &MapPanel::showMarker);
+    connect(m_places, &MapPlaces::markerChanged, this, [this] {
+        const auto marker = m_places->marker();
+        m_canvas.leaveFree(marker ? std::make_optional(marker->place) : std::nullopt);
+        update();
+    });
+    connect(m_outline, &OutlineTool::changed, this, qOverload<>(&MapPanel::update));
+    connect(m_outline, &OutlineTool::changed, this, &MapPanel::letGo);
+    connect(m_outline, &OutlineTool::activeChanged, m_buttons, &MapButtons::setOutlineChecked);
+}
+
+void MapPanel::toggleOutline()
+{
+    if (m_outline->isActive())
+        m_outline->leave();
+    else
+        m_outline->start();
+    setFocus(); // Its keys are the map's.
 }
 
 void MapPanel::retranslate()
@@ -88,7 +136,13 @@ MapView MapPanel::allowed(const MapView& view) const
 {
     MapView sized = view;
     sized.size = size();
-    return sized.within(m_canvas.extent().united(m_blocks.extent()));
+    QRectF area = m_canvas.extent().united(m_blocks.extent());
+    if (const auto marker = m_places->marker()) {
+        // Not empty, or it would not count.
+        constexpr double little = 1e-9;
+        area |= QRectF(marker->place, QSizeF(little, little));
+    }
+    return sized.within(area);
 }
 
 const MapView& MapPanel::goal() const
@@ -132,6 +186,17 @@ void MapPanel::showCountry()
     glideTo(viewOf({}, 0));
 }
 
+void MapPanel::showMarker()
+{
+    const auto marker = m_places->marker();
+    if (!marker)
+        return;
+    MapView view = goal();
+    view.centre = marker->place;
+    view.scale = std::max(view.scale, placeScale);
+    glideTo(view);
+}
+
 void MapPanel::zoom(double factor, const QPointF& fixed)
 {
     glideTo(goal().zoomed(factor, fixed));
@@ -165,7 +230,14 @@ void MapPanel::paintEvent(QPaintEvent* event)
         m_canvas.picture(m_view, devicePixelRatioF(),
                          isZooming ? MapCanvas::Quality::Draft : MapCanvas::Quality::Fine));
     m_blocks.draw(painter, m_view);
-    MapLegend::drawGridTexts(painter, m_view, cornerRect().top());
+    if (m_outline->isActive())
+        m_outline->drawing().draw(painter, m_view, m_cursorPlace);
+    if (const auto marker = m_places->marker())
+        marker->draw(painter, m_view);
+    const QWidget* lowest = m_outline->isActive() ? static_cast<QWidget*>(m_outline->plate())
+                                                  : m_places->box();
+    const QRect covered(QPoint(0, 0), lowest->geometry().bottomRight());
+    MapLegend::drawGridTexts(painter, m_view, covered, cornerRect().top());
     MapLegend::draw(painter, cornerRect(), m_view, coordinates());
 }
 
@@ -199,14 +271,17 @@ void MapPanel::mousePressEvent(QMouseEvent* event)
     setView(m_view); // A map that is held does not glide.
     m_grip = event->localPos();
     m_gripView = m_view;
-    setCursor(Qt::ClosedHandCursor);
+    m_isDragged = false;
+    if (!m_outline->isDrawing())
+        setCursor(Qt::ClosedHandCursor);
 }
 
 void MapPanel::mouseMoveEvent(QMouseEvent* event)
 {
     if (m_grip && !(event->buttons() & Qt::LeftButton))
         letGo(); // A dialog may have kept the release of the button.
-    if (m_grip) {
+    if (m_grip && !isClick(event->localPos())) {
+        m_isDragged = true;
         // By whole pixels of the screen, so that the picture can be moved instead of drawn.
         const double ratio = devicePixelRatioF();
         const QPoint pixels = ((event->localPos() - *m_grip) * ratio).toPoint();
@@ -217,19 +292,32 @@ void MapPanel::mouseMoveEvent(QMouseEvent* event)
 
 void MapPanel::mouseReleaseEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton)
-        letGo();
+    if (event->button() != Qt::LeftButton)
+        return;
+    if (m_grip && isClick(event->localPos()))
+        m_outline->addVertex(m_view.toPlane(*m_grip), sameVertex / m_view.scale);
+    letGo();
+}
+
+bool MapPanel::isClick(const QPointF& place) const
+{
+    return m_outline->isDrawing() && !m_isDragged
+        && (place - *m_grip).manhattanLength() < QApplication::startDragDistance();
 }
 
 void MapPanel::letGo()
 {
     m_grip.reset();
-    setCursor(Qt::OpenHandCursor);
+    setCursor(m_outline->isDrawing() ? Qt::CrossCursor : Qt::OpenHandCursor);
 }
 
 void MapPanel::mouseDoubleClickEvent(QMouseEvent* event)
 {
-    if (event->button() == Qt::LeftButton)
+    if (event->button() != Qt::LeftButton)
+        return;
+    if (m_outline->isActive())
+        m_outline->close();
+    else
         zoom(zoomStep, event->localPos());
 }
 
@@ -242,11 +330,16 @@ void MapPanel::leaveEvent(QEvent* event)
 void MapPanel::setCursorPlace(const std::optional<QPointF>& place)
 {
     m_cursorPlace = place;
-    update(cornerRect());
+    if (m_outline->isDrawing())
+        update(); // The line to the cursor.
+    else
+        update(cornerRect());
 }
 
 void MapPanel::keyPressEvent(QKeyEvent* event)
 {
+    if (m_outline->handleKey(event->key(), m_view))
+        return;
     const auto move = [this](double x, double y) { glideTo(goal().moved(QPointF(x, y))); };
     switch (event->key()) {
     case Qt::Key_Plus:

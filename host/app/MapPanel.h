@@ -13,10 +13,13 @@
 #include <optional>
 
 class MapButtons;
+class MapPlaces;
+class OutlineTool;
 
 /// A map of the country's cities and of the blocks of a project. The mouse moves it, the wheel
 /// zooms at the cursor; on the keyboard the arrows move it, + and - zoom and Home goes back to the
-/// block. The corner shows the scale and the coordinates under the cursor.
+/// block. The corner shows the scale and the coordinates under the cursor. Places are searched for
+/// by name or by where the user is, and outlines are drawn on it.
 ///
 ///     auto* map = new MapPanel(this);
 ///     map->setBlocks(blocks);
@@ -41,12 +44,17 @@ public:
     /// What the corner says of the place under the cursor; empty when the cursor is elsewhere.
     QString coordinates() const;
 
+    MapPlaces* places() const { return m_places; }
+    OutlineTool* outline() const { return m_outline; }
+
 public Q_SLOTS:
     /// Each goes there smoothly. The opened block with its surroundings; all blocks of the project;
     /// the country. The first two show the country when nothing is opened.
     void showBlock();
     void showProject();
     void showCountry();
+    /// The marked place in the middle, no smaller than a city.
+    void showMarker();
     void zoomIn();
     void zoomOut();
 
@@ -63,7 +71,9 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
+    void connectTools();
     void retranslate();
+    void toggleOutline();
     void glideTo(const MapView& goal);
     void zoom(double factor, const QPointF& fixed);
     MapView viewOf(const QRectF& area, double margin) const;
@@ -71,9 +81,13 @@ private:
     /// The view that the map will have when it comes to rest.
     const MapView& goal() const;
     void letGo();
+    /// Whether the mouse has moved too little for a drag, where a click has a meaning of its own.
+    bool isClick(const QPointF& place) const;
     void setCursorPlace(const std::optional<QPointF>& place);
     QRect cornerRect() const;
 
+    MapPlaces* const m_places;
+    OutlineTool* const m_outline;
     MapButtons* const m_buttons;
     MapCanvas m_canvas;
     MapBlocks m_blocks;
@@ -83,6 +97,7 @@ private:
     MapView m_glideGoal;
     std::optional<QPointF> m_grip; ///< Where the mouse holds the map.
     MapView m_gripView;
+    bool m_isDragged = false; ///< Since the mouse took hold.
     std::optional<QPointF> m_cursorPlace; ///< On the panel.
     bool m_isPlaced = false; ///< Whether the view was ever fitted to the panel.
 };

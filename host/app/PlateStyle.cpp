@@ -17,6 +17,7 @@ QToolButton[role="named"] {
 }
 QToolButton:hover { background-color: white; border-color: rgb(58, 136, 244); }
 QToolButton:pressed { background-color: rgb(222, 234, 252); }
+QToolButton:checked { background-color: rgb(208, 226, 252); border-color: rgb(58, 136, 244); }
 QToolButton:focus { border: 2px solid rgb(58, 136, 244); }
 QToolButton:disabled {
     background-color: rgba(255, 255, 255, 150); border-color: rgb(216, 223, 233);

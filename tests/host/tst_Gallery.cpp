@@ -207,7 +207,10 @@ void tst_Gallery::programShowsEveryWindow()
     QVERIFY2(run.exitCode == 0, qPrintable(run.errors));
     for (const char* name :
          {"view-tiles", "view-selected", "view-editing", "view-keyword", "view-city", "host",
-          "host-province", "host-country", "host-empty", "host-tools", "host-height",
+          "host-province", "host-country", "host-empty", "map-search", "map-search-none",
+          "map-search-no-service", "map-place", "map-located", "map-outline-drawing",
+          "map-outline-convex", "map-outline-bent", "map-outline-crossing",
+          "map-outline-segmented", "host-tools", "host-height",
           "host-coordinates", "terrain", "terrain-grid", "terrain-grid-turned", "terrain-volumes",
           "scene", "scene-morning", "scene-evening", "projects", "projects-selected",
           "projects-searched", "projects-blocks", "city-provinces", "city-cities",
