@@ -2,7 +2,6 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
 #include "app/BlockPanel.h"
-#include "app/MapButtons.h"
 #include "app/ProjectUploads.h"
 #include "support/DialogSteps.h"
 #include "UploadFixture.h"
@@ -105,7 +104,8 @@ void tst_NoFlyLift::pictureIsOfTheMapAlone()
 {
     m_fixture.openBlock();
     m_fixture.startService();
-    auto* buttons = m_fixture.window->map()->findChild<MapButtons*>();
+    const QList<QWidget*> controls =
+        m_fixture.window->map()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     const auto shown = [this] {
         return m_fixture.window->map()->grab().toImage().convertToFormat(QImage::Format_RGB32);
     };
@@ -113,7 +113,8 @@ void tst_NoFlyLift::pictureIsOfTheMapAlone()
     QImage bare;
     const DialogSteps steps({[&](QDialog& form) {
                                  whole = shown();
-                                 buttons->hide();
+                                 for (QWidget* control : controls)
+                                     control->hide();
                                  bare = shown();
                                  sendForm(form, m_document);
                              },
