@@ -35,6 +35,7 @@
 #include <RkBaseUI/CRkProjectManagerView.h>
 #include <RkBaseUI/CRkProjectManagerWidget.h>
 #include <RkBaseUI/CRkSlider.h>
+#include <RkBaseUI/CRkSystemInfo.h>
 #include <RkBaseUI/CRkTableDelegate.h>
 #include <RkBaseUI/CRkTipPushButton.h>
 #include <RkBaseUI/CRkVerHighCalculator.h>

@@ -641,6 +641,113 @@
     </message>
 </context>
 <context>
+    <name>SystemPage</name>
+    <message>
+        <source>%1: %2</source>
+        <translation>%1：%2</translation>
+    </message>
+    <message>
+        <source>System</source>
+        <translation>系统信息</translation>
+    </message>
+    <message>
+        <source>Copy as text</source>
+        <translation>复制为文本</translation>
+    </message>
+    <message>
+        <source>Asking the system…</source>
+        <translation>正在读取系统信息…</translation>
+    </message>
+    <message>
+        <source>Copied to the clipboard.</source>
+        <translation>已复制到剪贴板。</translation>
+    </message>
+    <message>
+        <source>About this computer, for questions to support.</source>
+        <translation>本机的软硬件信息，可在咨询技术支持时提供。</translation>
+    </message>
+    <message>
+        <source>PROCESSOR</source>
+        <translation>处理器</translation>
+    </message>
+    <message>
+        <source>STORAGE</source>
+        <translation>存储</translation>
+    </message>
+    <message>
+        <source>DISPLAY</source>
+        <translation>显示</translation>
+    </message>
+    <message>
+        <source>MEMORY</source>
+        <translation>内存</translation>
+    </message>
+    <message>
+        <source>OPERATING SYSTEM</source>
+        <translation>操作系统</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>名称</translation>
+    </message>
+    <message>
+        <source>Identifier</source>
+        <translation>标识</translation>
+    </message>
+    <message>
+        <source>Logical processors</source>
+        <translation>逻辑处理器数</translation>
+    </message>
+    <message>
+        <source>Clock</source>
+        <translation>主频</translation>
+    </message>
+    <message>
+        <source>Disks</source>
+        <translation>硬盘</translation>
+    </message>
+    <message>
+        <source>Storage devices of all kinds</source>
+        <translation>各类存储设备数</translation>
+    </message>
+    <message>
+        <source>Display adapters</source>
+        <translation>显卡</translation>
+    </message>
+    <message>
+        <source>Number of adapters</source>
+        <translation>显卡数量</translation>
+    </message>
+    <message>
+        <source>Graphics memory</source>
+        <translation>显存</translation>
+    </message>
+    <message>
+        <source>Physical memory</source>
+        <translation>物理内存</translation>
+    </message>
+    <message>
+        <source>Address space</source>
+        <translation>虚拟地址空间</translation>
+    </message>
+    <message>
+        <source>Version</source>
+        <translation>版本</translation>
+    </message>
+    <message>
+        <source>%1 MHz</source>
+        <translation>%1 MHz</translation>
+    </message>
+    <message>
+        <source>not found</source>
+        <translation>未找到</translation>
+    </message>
+    <message>
+        <source>%1 MiB</source>
+        <translation>%1 MiB</translation>
+    </message>
+</context>
+<context>
     <name>TerrainLegend</name>
     <message>
         <source>%1 m</source>

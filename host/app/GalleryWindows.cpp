@@ -70,6 +70,6 @@ QVector<Gallery::Entry> galleryWindows()
     };
     return pages + galleryHost() + galleryService() + galleryUpload() + gallerySurvey()
         + galleryProjects() + galleryCity() + galleryDates() + galleryBlocks()
-        + galleryCalculators() + galleryTools() + galleryLight() + galleryNoFly()
+        + galleryCalculators() + galleryTools() + gallerySystem() + galleryLight() + galleryNoFly()
         + galleryDialogs() + galleryControls() + galleryPictures() + galleryMessages();
 }

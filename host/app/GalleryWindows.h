@@ -46,6 +46,9 @@ QVector<Gallery::Entry> galleryService();
 /// Of these, what is sent of an opened project to the web service.
 QVector<Gallery::Entry> galleryUpload();
 
+/// Of these, the page about the computer.
+QVector<Gallery::Entry> gallerySystem();
+
 /// Of these, sheets of controls in their states.
 QVector<Gallery::Entry> galleryControls();
 
