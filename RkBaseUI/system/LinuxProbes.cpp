@@ -87,7 +87,7 @@ std::optional<QString> diskName(const SystemTree& tree, const QByteArray& name)
 QByteArray pciDatabase(const SystemTree& tree)
 {
     for (const char* path : {"/usr/share/hwdata/pci.ids", "/usr/share/misc/pci.ids"}) {
-        const QByteArray content = tree.read(path);
+        QByteArray content = tree.read(path);
         if (!content.isEmpty())
             return content;
     }

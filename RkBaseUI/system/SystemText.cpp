@@ -44,7 +44,7 @@ QByteArray value(const QByteArray& text, const QByteArray& key)
 QByteArray value(const QByteArray& text, std::initializer_list<const char*> keys)
 {
     for (const char* key : keys) {
-        const QByteArray found = value(text, QByteArray(key));
+        QByteArray found = value(text, QByteArray(key));
         if (!found.isEmpty())
             return found;
     }

@@ -30,7 +30,7 @@ QImage pictureOf(MapPanel& map)
 QByteArray documentOf(const QString& projectFile)
 {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-    const QByteArray document = GetUploadArray(projectFile);
+    QByteArray document = GetUploadArray(projectFile);
     QGuiApplication::restoreOverrideCursor();
     return document;
 }

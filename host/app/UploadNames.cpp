@@ -152,7 +152,7 @@ QStringList orderedKeys(const QJsonObject& object)
 QString elementName(const QString& listKey, const QJsonValue& element, int number)
 {
     for (const char* key : {"survey_area_name", "flight_task_name", "name"}) {
-        const QString name = element[QLatin1String(key)].toString();
+        QString name = element[QLatin1String(key)].toString();
         if (!name.isEmpty())
             return name;
     }
