@@ -117,15 +117,24 @@ void drawOutline(QWidget& window, const QVector<QPointF>& shares, const char* bu
     map.findChild<QPushButton*>(QLatin1String(button))->click();
 }
 
-const QVector<QPointF> convexOutline = {
-    {0.48, 0.24}, {0.72, 0.22}, {0.86, 0.48}, {0.74, 0.78}, {0.50, 0.72}};
-const QVector<QPointF> bentOutline = {{0.46, 0.24}, {0.68, 0.20}, {0.64, 0.46},
-                                      {0.86, 0.54}, {0.80, 0.80}, {0.50, 0.74}};
-const QVector<QPointF> crossingOutline = {{0.46, 0.26}, {0.84, 0.72}, {0.86, 0.30}, {0.50, 0.76}};
+QVector<QPointF> convexOutline()
+{
+    return {{0.48, 0.24}, {0.72, 0.22}, {0.86, 0.48}, {0.74, 0.78}, {0.50, 0.72}};
+}
+
+QVector<QPointF> bentOutline()
+{
+    return {{0.46, 0.24}, {0.68, 0.20}, {0.64, 0.46}, {0.86, 0.54}, {0.80, 0.80}, {0.50, 0.74}};
+}
+
+QVector<QPointF> crossingOutline()
+{
+    return {{0.46, 0.26}, {0.84, 0.72}, {0.86, 0.30}, {0.50, 0.76}};
+}
 
 void drawUnfinished(QWidget& window)
 {
-    drawOutline(window, convexOutline.mid(0, 4), nullptr);
+    drawOutline(window, convexOutline().mid(0, 4), nullptr);
     MapPanel& map = mapOf(window);
     const QPoint at(int(0.52 * map.width()), int(0.66 * map.height()));
     QMouseEvent move(QEvent::MouseMove, at, map.mapToGlobal(at), Qt::NoButton, Qt::NoButton,
@@ -135,23 +144,23 @@ void drawUnfinished(QWidget& window)
 
 void checkConvex(QWidget& window)
 {
-    drawOutline(window, convexOutline, "check");
+    drawOutline(window, convexOutline(), "check");
 }
 
 void checkBent(QWidget& window)
 {
-    drawOutline(window, bentOutline, "check");
+    drawOutline(window, bentOutline(), "check");
 }
 
 void checkCrossing(QWidget& window)
 {
-    drawOutline(window, crossingOutline, "check");
+    drawOutline(window, crossingOutline(), "check");
 }
 
 void splitBent(QWidget& window)
 {
     mapOf(window).findChild<OutlinePlate*>()->setLargestPart(2e6);
-    drawOutline(window, bentOutline, "segment");
+    drawOutline(window, bentOutline(), "segment");
 }
 
 } // namespace

@@ -23,6 +23,12 @@ struct Seen
     QVector3D colour;
 };
 
+} // namespace
+
+Q_DECLARE_TYPEINFO(Seen, Q_MOVABLE_TYPE);
+
+namespace {
+
 QVector<Seen> seenCorners(const LitTerrain& terrain, const QSizeF& size)
 {
     const TerrainMesh& mesh = terrain.mesh;
