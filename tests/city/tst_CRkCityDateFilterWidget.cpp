@@ -4,6 +4,7 @@
 #include <RkBaseUI/CRkCityDateFilterWidget.h>
 
 #include "support/TestSupport.h"
+#include "support/WindowWaits.h"
 #include "widgets/AtScale.h"
 #include "widgets/ExecAnd.h"
 #include "widgets/Render.h"
@@ -96,7 +97,7 @@ public:
     {
         show();
         activateWindow();
-        return QTest::qWaitForWindowActive(this);
+        return comesToFront(this);
     }
 
     void clickOn(const QWidget& widget) const
@@ -495,7 +496,7 @@ void tst_CRkCityDateFilterWidget::popupHangsUnderTheButton()
     QVERIFY(window.open());
     window.clickOn(window.bar->button(isCity));
     QWidget& popup = window.bar->popup(isCity);
-    QVERIFY(QTest::qWaitForWindowExposed(&popup));
+    QVERIFY(comesOnScreen(&popup));
     const QRect button = window.bar->button(isCity).geometry();
     const QPoint expected =
         window.bar->mapToGlobal({button.center().x() - popup.width() / 2, button.bottom()});
@@ -555,7 +556,7 @@ void tst_CRkCityDateFilterWidget::cityIsPicked()
     const QSignalSpy city(&bar, &CRkCityDateFilterWidget::CityConditionChanged);
     const QSignalSpy date(&bar, &CRkCityDateFilterWidget::DateConditionChanged);
     window.clickOn(bar.cityButton());
-    QVERIFY(QTest::qWaitForWindowExposed(&bar.cityPopup()));
+    QVERIFY(comesOnScreen(&bar.cityPopup()));
     QWidget* frequent = bar.cityPopup().findChild<QWidget*>("widgetFrequentCities");
     clickIn(bar.cityPopup(), *frequent->findChildren<QPushButton*>().at(1));
     QCOMPARE(bar.GetCurCity(), QString("Beijing"));
@@ -573,7 +574,7 @@ void tst_CRkCityDateFilterWidget::dateIsPicked()
     const QSignalSpy city(&bar, &CRkCityDateFilterWidget::CityConditionChanged);
     const QSignalSpy date(&bar, &CRkCityDateFilterWidget::DateConditionChanged);
     window.clickOn(bar.dateButton());
-    QVERIFY(QTest::qWaitForWindowExposed(&bar.datePopup()));
+    QVERIFY(comesOnScreen(&bar.datePopup()));
     clickIn(bar.datePopup(), *bar.datePopup().findChild<QPushButton*>("pushButtonLastWeek"));
     QVERIFY2(bar.GetCurDate().contains(" to "), qPrintable(bar.GetCurDate()));
     QVERIFY(bar.isClosed());
@@ -919,7 +920,7 @@ void tst_CRkCityDateFilterWidget::popupsWorkInAModalDialog()
         const QWidget* pick = isCity
             ? popup.findChild<QWidget*>("widgetFrequentCities")->findChildren<QPushButton*>().at(2)
             : popup.findChild<QPushButton*>("pushButtonLastMonth");
-        if (QTest::qWaitForWindowExposed(&popup))
+        if (comesOnScreen(&popup))
             clickIn(popup, *pick);
         picked = isCity ? bar->GetCurCity() : bar->GetCurDate();
         bar->button(isCity).setChecked(true);
@@ -949,10 +950,10 @@ void tst_CRkCityDateFilterWidget::popupOnTheSecondScreen()
         window.windowHandle()->setScreen(screen);
         window.move(400, 60);
         window.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&window));
+        QVERIFY(comesOnScreen(&window));
         window.bar->button(isCity).click();
         QWidget& popup = window.bar->popup(isCity);
-        QVERIFY(QTest::qWaitForWindowExposed(&popup));
+        QVERIFY(comesOnScreen(&popup));
         QCOMPARE(popup.windowHandle()->screen(), screen);
         const QRect button = window.bar->button(isCity).geometry();
         const QPoint under =

@@ -5,6 +5,7 @@
 
 #include "support/Brackets.h"
 #include "support/TestSupport.h"
+#include "support/WindowWaits.h"
 #include "widgets/Render.h"
 
 #include <RkAlgorthm/Constants.h>
@@ -84,7 +85,7 @@ public:
         InitWidget();
         setFixedHeight(600);
         show();
-        return QTest::qWaitForWindowExposed(this);
+        return comesOnScreen(this);
     }
 };
 
@@ -324,7 +325,7 @@ void tst_CRkCitySelectWidget::tabKeyFollowsTheForm()
     Picker picker;
     QVERIFY(picker.showAsPopup());
     picker.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&picker));
+    QVERIFY(comesToFront(&picker));
     const auto frequent = picker.buttonsIn("widgetFrequentCities");
     const auto letters = picker.buttonsIn("widgetByProvinceLetters");
     QList<QWidget*> order;

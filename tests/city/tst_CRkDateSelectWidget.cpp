@@ -3,6 +3,7 @@
 
 #include <RkBaseUI/CRkDateSelectWidget.h>
 
+#include "support/WindowWaits.h"
 #include "widgets/Render.h"
 #include "widgets/SendMouse.h"
 
@@ -61,7 +62,7 @@ public:
     bool open()
     {
         show();
-        return QTest::qWaitForWindowExposed(this);
+        return comesOnScreen(this);
     }
 
     /// A click as the window system sends it.
@@ -590,7 +591,7 @@ void tst_CRkDateSelectWidget::monthMenuLeavesThePageOpen()
     QMenu* menu = month->menu();
     connect(menu, &QMenu::aboutToShow, menu, [menu] {
         QTimer::singleShot(0, menu, [menu] {
-            const bool isShown = QTest::qWaitForWindowExposed(menu);
+            const bool isShown = comesOnScreen(menu);
             const QRect december = menu->actionGeometry(menu->actions().constLast());
             if (isShown)
                 QTest::mouseClick(menu->windowHandle(), Qt::LeftButton, {}, december.center());

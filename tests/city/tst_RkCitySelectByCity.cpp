@@ -3,6 +3,7 @@
 
 #include <RkBaseUI/RkCitySelectByCity.h>
 
+#include "support/WindowWaits.h"
 #include "widgets/Render.h"
 
 #include <RkBaseUI/FlowLayout.h>
@@ -160,7 +161,7 @@ void tst_RkCitySelectByCity::linesWrapAndNothingIsCut()
     page.SetCities(names);
     page.resize(width, page.heightForWidth(width));
     page.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    QVERIFY(comesOnScreen(&page));
     QSet<int> lines;
     for (const RkHoveredPushButton* button : buttonsOf(page)) {
         QVERIFY(listOf(page).rect().contains(button->geometry()));
@@ -178,7 +179,7 @@ void tst_RkCitySelectByCity::buttonLooks()
     page.SetCities({"\u2588\u2588\u2588"});
     page.resize(300, 40);
     page.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    QVERIFY(comesOnScreen(&page));
     RkHoveredPushButton& button = *buttonsOf(page).first();
     QCursor::setPos(page.mapToGlobal({290, 39}));
     button.setAttribute(Qt::WA_UnderMouse, false);

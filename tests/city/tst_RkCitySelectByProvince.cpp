@@ -6,6 +6,8 @@
 #include <RkBaseUI/FlowLayout.h>
 #include <RkBaseUI/RkHoveredPushButton.h>
 
+#include "support/WindowWaits.h"
+
 #include <QLabel>
 #include <QSignalSpy>
 #include <QTest>
@@ -106,7 +108,7 @@ void tst_RkCitySelectByProvince::namesLineUp()
         page.SetProvinceCities({"Chengdu", "Mianyang"});
         page.resize(600, 60);
         page.show();
-        return QTest::qWaitForWindowExposed(&page);
+        return comesOnScreen(&page);
     };
     RkCitySelectByProvince first;
     RkCitySelectByProvince second;

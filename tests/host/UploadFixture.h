@@ -9,6 +9,7 @@
 #include "samples/SampleProjects.h"
 #include "service/WebServiceServer.h"
 #include "support/TestSupport.h"
+#include "support/WindowWaits.h"
 
 #include <RkAlgorthm/ReferenceSettings.h>
 #include <RkBaseUI/CRkBlockManagerWidget.h>
@@ -54,7 +55,7 @@ public:
         ClearBlocks();
         window = std::make_unique<HostWindow>();
         window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+        QVERIFY(comesOnScreen(window.get()));
     }
 
     void end()

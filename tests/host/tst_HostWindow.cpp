@@ -12,6 +12,7 @@
 #include "map/MapProjection.h"
 #include "samples/SampleProjects.h"
 #include "support/TestSupport.h"
+#include "support/WindowWaits.h"
 
 #include <RkBaseUI/CRkBlockManagerWidget.h>
 #include <RkBaseUI/CRkGraphicsProjectRectItem.h>
@@ -76,7 +77,7 @@ CRkProjectManagerView& viewOf(const CRkProjectManagerDialog& dialog)
 
 void openProject(const CRkProjectManagerDialog& dialog, const QString& file)
 {
-    QVERIFY(QTest::qWaitForWindowExposed(dialog.windowHandle()));
+    QVERIFY(comesOnScreen(dialog.windowHandle()));
     CRkProjectManagerView& view = viewOf(dialog);
     const QList<QGraphicsItem*> items = view.scene()->items();
     for (QGraphicsItem* item : items) {
@@ -203,7 +204,7 @@ void tst_HostWindow::init()
     ClearBlocks();
     m_window = std::make_unique<HostWindow>();
     m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(comesOnScreen(m_window.get()));
 }
 
 void tst_HostWindow::cleanup()
@@ -605,7 +606,7 @@ void tst_HostWindow::gridGetsTheKeys()
     m_window->showPage(HostWindow::Page::Map);
     m_window->resize(1000, 700); // The hidden page does not see that.
     dialog->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    QVERIFY(comesToFront(dialog));
     QTest::keyClick(dialog->findChild<QPushButton*>(QStringLiteral("btn_grid_generate")),
                     Qt::Key_Space);
     TerrainPanel& terrain = *m_window->terrain();

@@ -9,6 +9,7 @@
 #include "app/SurveyTools.h"
 #include "app/TerrainPanel.h"
 #include "support/TestSupport.h"
+#include "support/WindowWaits.h"
 
 #include <RkBaseUI/CRkLightWgt.h>
 
@@ -124,7 +125,7 @@ void tst_LightPanel::init()
     m_panel->setCamera({180, 60, 1700}); // From the south: west is on the left.
     m_window->move(0, 0);
     m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(comesOnScreen(m_window.get()));
 }
 
 void tst_LightPanel::cleanup()

@@ -6,6 +6,7 @@
 #include "app/MapPanel.h"
 #include "map/MapProjection.h"
 #include "support/TestSupport.h"
+#include "support/WindowWaits.h"
 #include "widgets/Render.h"
 #include "widgets/SendMouse.h"
 
@@ -128,7 +129,7 @@ void tst_MapPanel::init()
     m_panel = std::make_unique<MapPanel>();
     m_panel->resize(800, 600);
     m_panel->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_panel.get()));
+    QVERIFY(comesOnScreen(m_panel.get()));
 }
 
 void tst_MapPanel::cleanup()

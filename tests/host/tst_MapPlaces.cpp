@@ -9,6 +9,7 @@
 #include "service/WebServiceServer.h"
 #include "support/RawServer.h"
 #include "support/TestSupport.h"
+#include "support/WindowWaits.h"
 #include "widgets/Render.h"
 
 #include <RkAlgorthm/ReferenceSettings.h>
@@ -99,7 +100,7 @@ void tst_MapPlaces::init()
     m_panel = std::make_unique<MapPanel>();
     m_panel->resize(900, 650);
     m_panel->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_panel.get()));
+    QVERIFY(comesOnScreen(m_panel.get()));
     QApplication::setActiveWindow(m_panel.get());
     QTRY_VERIFY(m_panel->isActiveWindow());
 }

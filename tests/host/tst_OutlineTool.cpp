@@ -7,6 +7,7 @@
 #include "app/OutlineTool.h"
 #include "map/MapProjection.h"
 #include "support/TestSupport.h"
+#include "support/WindowWaits.h"
 #include "widgets/Render.h"
 #include "widgets/SendMouse.h"
 
@@ -92,7 +93,7 @@ void tst_OutlineTool::init()
     m_panel = std::make_unique<MapPanel>();
     m_panel->resize(900, 650);
     m_panel->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_panel.get()));
+    QVERIFY(comesOnScreen(m_panel.get()));
     QApplication::setActiveWindow(m_panel.get());
     QTRY_VERIFY(m_panel->isActiveWindow());
     m_panel->setFocus();

@@ -4,6 +4,7 @@
 #include "app/BlockPanel.h"
 #include "app/UploadDialog.h"
 #include "support/DialogSteps.h"
+#include "support/WindowWaits.h"
 #include "UploadFixture.h"
 
 #include <RkAlgorthm/RkAlgorthm.h>
@@ -110,7 +111,7 @@ void tst_ProjectUpload::projectIsShownBeforeItIsSent()
     int rows = 0;
     bool isOver = false;
     const DialogSteps steps({[&](QDialog& dialog) {
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QVERIFY(comesOnScreen(&dialog));
         name = labelText(dialog, "projectName");
         summary = labelText(dialog, "summary");
         address = labelText(dialog, "status");

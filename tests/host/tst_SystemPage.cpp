@@ -3,6 +3,7 @@
 
 #include "app/HostSettings.h"
 #include "app/SystemPage.h"
+#include "support/WindowWaits.h"
 
 #include <RkBaseUI/CRkSystemInfo.h>
 
@@ -169,7 +170,7 @@ void tst_SystemPage::isThereBeforeTheSystemAnswers()
         return workstation();
     });
     page.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    QVERIFY(comesOnScreen(&page));
     QVERIFY(!page.isGathered());
     QVERIFY(isShown(page, QString::fromUtf8("Asking the system…")));
     QCOMPARE(shown(page, "Name"), QString());

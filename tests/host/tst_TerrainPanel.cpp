@@ -7,6 +7,7 @@
 #include "app/SurveyTools.h"
 #include "app/TerrainPanel.h"
 #include "support/TestSupport.h"
+#include "support/WindowWaits.h"
 #include "terrain/SampleTerrain.h"
 #include "widgets/Render.h"
 
@@ -159,7 +160,7 @@ void tst_TerrainPanel::init()
     connect(m_panel, &TerrainPanel::earthworkWanted, m_tools, &SurveyTools::openEarthwork);
     m_window->move(0, 0);
     m_window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(m_window.get()));
+    QVERIFY(comesOnScreen(m_window.get()));
 }
 
 void tst_TerrainPanel::cleanup()

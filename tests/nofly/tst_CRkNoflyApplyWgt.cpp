@@ -6,6 +6,7 @@
 #include "support/BoxAnswerer.h"
 #include "support/Brackets.h"
 #include "support/TestSupport.h"
+#include "support/WindowWaits.h"
 #include "widgets/AtScale.h"
 #include "widgets/ExecAnd.h"
 #include "widgets/Render.h"
@@ -307,7 +308,7 @@ void tst_CRkNoflyApplyWgt::arrangement()
 {
     CRkNoflyApplyWgt form({}, {}, nullptr);
     form.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&form));
+    QVERIFY(comesOnScreen(&form));
     const auto* grid =
         qobject_cast<QGridLayout*>(form.findChild<QWidget*>("CRknoFlyApplyWgt")->layout());
     QVERIFY(grid);
@@ -472,7 +473,7 @@ void tst_CRkNoflyApplyWgt::coordinatesCannotBeEdited()
     addBlock({{30.5, 104}});
     CRkNoflyApplyWgt form(blockId, {}, nullptr);
     form.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&form));
+    QVERIFY(comesOnScreen(&form));
     const QPoint cell = table(form)->visualItemRect(table(form)->item(0, 0)).center();
     QTest::mouseDClick(table(form)->viewport(), Qt::LeftButton, {}, cell);
     QVERIFY(!table(form)->viewport()->findChild<QLineEdit*>());
@@ -766,7 +767,7 @@ void tst_CRkNoflyApplyWgt::screenShot()
     QCOMPARE(shown.convertToFormat(QImage::Format_RGB32),
              image.scaled(label->size(), Qt::KeepAspectRatio, Qt::FastTransformation));
     form.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&form));
+    QVERIFY(comesOnScreen(&form));
     QCOMPARE(label->size(), label->minimumSize()); // The size for which it was scaled.
 }
 

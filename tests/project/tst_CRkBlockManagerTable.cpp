@@ -5,6 +5,8 @@
 
 #include <RkAlgorthm/RkAlgorthm.h>
 
+#include "support/WindowWaits.h"
+
 #include <QHeaderView>
 #include <QPushButton>
 #include <QSignalSpy>
@@ -352,7 +354,7 @@ void tst_CRkBlockManagerTable::doubleClickOpens()
     table.fill();
     table.resize(800, 400);
     table.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&table));
+    QVERIFY(comesOnScreen(&table));
     QSignalSpy opened(&table, &CRkBlockManagerTable::signalBlockOpened);
     const auto doubleClick = [&](const QString& name) {
         const QPoint place = table.tree().visualItemRect(table.rowNamed(name)).center();
@@ -413,7 +415,7 @@ void tst_CRkBlockManagerTable::columnWidths()
     table.FinishLoad();
     table.resize(width, 400);
     table.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&table));
+    QVERIFY(comesOnScreen(&table));
     for (int column = 0; column < 5; ++column)
         QCOMPARE(table.tree().columnWidth(column), columnWidth);
     for (int column = 0; column < 4; ++column) {
@@ -435,7 +437,7 @@ void tst_CRkBlockManagerTable::widthsShrinkInALayout()
     layout->addWidget(table);
     window.resize(1500, 400);
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(comesOnScreen(&window));
     QCOMPARE(table->header(0).width(), 300);
     window.resize(600, 400);
     QTRY_COMPARE(table->header(0).width(), 120);
@@ -447,7 +449,7 @@ void tst_CRkBlockManagerTable::tenThousandRows()
     Table table;
     table.resize(800, 400);
     table.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&table));
+    QVERIFY(comesOnScreen(&table));
     for (int i = 0; i < 10000; ++i) {
         table.add(QString::number(10000 + i * 7919 % 10000), EPlaneType(1 + i % 6),
                   ECameraType(1 + i % 7), i % 10 == 0 ? 0 : 1);
@@ -471,7 +473,7 @@ void tst_CRkBlockManagerTable::colours()
     table.resize(800, 400);
     table.tree().setCurrentItem(table.rowNamed("d"));
     table.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&table));
+    QVERIFY(comesOnScreen(&table));
     QCOMPARE(table.tree().visualItemRect(table.rowNamed("b")).height(), 39);
 
     const QPoint place = table.tree().visualItemRect(table.rowNamed("e")).center();

@@ -5,6 +5,7 @@
 
 #include "BlockFixture.h"
 #include "support/TestSupport.h"
+#include "support/WindowWaits.h"
 
 #include <RkAlgorthm/RkAlgorthm.h>
 #include <RkBaseUI/CRkBlockManagerTable.h>
@@ -526,7 +527,7 @@ void tst_CRkBlockManagerWidget::searchRunsOnTheClickAlone()
     Page page;
     QVERIFY(page.LoadExistBlocks(hill().write(root())));
     page.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    QVERIFY(comesOnScreen(&page));
     QTest::keyClicks(&page.searchText(), "south");
     QTest::keyClick(&page.searchText(), Qt::Key_Return);
     QCOMPARE(page.tree().topLevelItemCount(), 4);

@@ -7,6 +7,7 @@
 #include "support/BoxAnswerer.h"
 #include "support/Brackets.h"
 #include "support/TestSupport.h"
+#include "support/WindowWaits.h"
 #include "widgets/ExecAnd.h"
 #include "widgets/VerifyDrag.h"
 
@@ -276,7 +277,7 @@ void tst_CRkProjectManagerDialog::searchFieldHasTheFocusFirst()
     Dialog dialog(nullptr);
     dialog.show();
     dialog.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QVERIFY(comesToFront(&dialog));
     QCOMPARE(dialog.focusWidget()->objectName(), QString("lineEditSearch"));
 }
 
@@ -346,7 +347,7 @@ void tst_CRkProjectManagerDialog::fullScreen()
 {
     Dialog dialog(nullptr);
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(comesOnScreen(&dialog));
     QPushButton& button = dialog.button("pushButtonMaxWindow");
     QTest::mouseClick(&button, Qt::LeftButton);
     QVERIFY(dialog.isFullScreen());
@@ -562,7 +563,7 @@ void tst_CRkProjectManagerDialog::pressElsewhereDoesNotDrag()
     Dialog dialog(nullptr);
     dialog.move(100, 120);
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(comesOnScreen(&dialog));
     QWindow* window = dialog.windowHandle();
     QTest::mousePress(window, Qt::LeftButton, {}, at);
     QTest::mouseMove(window, QPoint(480, 16));
@@ -577,7 +578,7 @@ void tst_CRkProjectManagerDialog::otherButtonDoesNotDrag()
     Dialog dialog(nullptr);
     dialog.move(100, 120);
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(comesOnScreen(&dialog));
     QWindow* window = dialog.windowHandle();
     QTest::mousePress(window, Qt::RightButton, {}, QPoint(500, 16));
     QTest::mouseMove(window, QPoint(530, 26));
@@ -591,7 +592,7 @@ void tst_CRkProjectManagerDialog::secondButtonKeepsTheDrag()
     Dialog dialog(nullptr);
     dialog.move(100, 120);
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(comesOnScreen(&dialog));
     QWindow* window = dialog.windowHandle();
     QTest::mousePress(window, Qt::LeftButton, {}, QPoint(500, 16));
     QTest::mousePress(window, Qt::RightButton, {}, QPoint(500, 16));
@@ -608,7 +609,7 @@ void tst_CRkProjectManagerDialog::mouseIsGrabbedDuringADrag()
 {
     Dialog dialog(nullptr);
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(comesOnScreen(&dialog));
     QWindow* window = dialog.windowHandle();
     QTest::mousePress(window, Qt::LeftButton, {}, QPoint(500, 16));
     QCOMPARE(QWidget::mouseGrabber(), &dialog);
@@ -620,7 +621,7 @@ void tst_CRkProjectManagerDialog::dragEndsWithTheDialog()
 {
     Dialog dialog(nullptr);
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(comesOnScreen(&dialog));
     QTest::mousePress(dialog.windowHandle(), Qt::LeftButton, {}, QPoint(500, 16));
     QTest::keyClick(&dialog, Qt::Key_Escape);
     QVERIFY(!dialog.isVisible());
@@ -633,7 +634,7 @@ void tst_CRkProjectManagerDialog::closedDuringARename()
     Dialog dialog(nullptr);
     dialog.show();
     dialog.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&dialog));
+    QVERIFY(comesToFront(&dialog));
     CRkGraphicsProjectTextItem* caption = dialog.tile().GetTextItem();
     dialog.view().setFocus();
     caption->setFocus();
@@ -653,7 +654,7 @@ void tst_CRkProjectManagerDialog::deletedDuringARename()
     auto dialog = std::make_unique<Dialog>(nullptr);
     dialog->show();
     dialog->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(dialog.get()));
+    QVERIFY(comesToFront(dialog.get()));
     CRkGraphicsProjectTextItem* caption = dialog->tile().GetTextItem();
     dialog->view().setFocus();
     caption->setFocus();
@@ -725,7 +726,7 @@ void tst_CRkProjectManagerDialog::deletedOnCloseDuringTheMessageOfARename()
     dialog->setAttribute(Qt::WA_DeleteOnClose);
     dialog->show();
     dialog->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(dialog));
+    QVERIFY(comesToFront(dialog.data()));
     CRkGraphicsProjectTextItem* caption = dialog->tile().GetTextItem();
     const QPointer<QGraphicsScene> scene = caption->scene();
     dialog->view().setFocus();
@@ -758,7 +759,7 @@ void tst_CRkProjectManagerDialog::closedWhileAPopupIsOpen()
     QFETCH(bool, deleted);
     auto dialog = std::make_unique<Dialog>(nullptr);
     dialog->show();
-    QVERIFY(QTest::qWaitForWindowExposed(dialog.get()));
+    QVERIFY(comesOnScreen(dialog.get()));
     const QByteArray button = QByteArray(QTest::currentDataTag()).split(',').first();
     dialog->button(button.constData()).click();
     const QPointer<QWidget> popup = QApplication::activePopupWidget();

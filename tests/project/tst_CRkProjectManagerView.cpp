@@ -5,6 +5,7 @@
 
 #include "ProjectFixture.h"
 #include "support/TestSupport.h"
+#include "support/WindowWaits.h"
 
 #include <RkAlgorthm/RkAlgorthm.h>
 #include <RkBaseUI/CRkGraphicsProjectImageItem.h>
@@ -202,7 +203,7 @@ std::unique_ptr<CRkProjectManagerView> tst_CRkProjectManagerView::shownView(cons
     view->setParent(nullptr);
     view->resize(size);
     view->show();
-    if (!QTest::qWaitForWindowExposed(view.get()))
+    if (!comesOnScreen(view.get()))
         return nullptr;
     QApplication::setActiveWindow(view.get());
     return view;

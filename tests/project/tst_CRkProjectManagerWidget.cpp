@@ -6,6 +6,7 @@
 #include "ProjectFixture.h"
 #include "support/BoxAnswerer.h"
 #include "support/TestSupport.h"
+#include "support/WindowWaits.h"
 
 #include <RkAlgorthm/RkAlgorthm.h>
 #include <RkBaseUI/CRkCityDateFilterWidget.h>
@@ -211,7 +212,7 @@ void tst_CRkProjectManagerWidget::keyboardOrder()
     Page page;
     page.show();
     page.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&page));
+    QVERIFY(comesToFront(&page));
     page.search().setFocus();
     QStringList names;
     for (int i = 0; i < 8; ++i) {

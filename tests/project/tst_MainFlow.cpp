@@ -9,6 +9,7 @@
 #include "BlockFixture.h"
 #include "ProjectFixture.h"
 #include "support/TestSupport.h"
+#include "support/WindowWaits.h"
 
 #include <RkAlgorthm/RkAlgorthm.h>
 #include <RkBaseUI/CRkGraphicsProjectRectItem.h>
@@ -103,7 +104,7 @@ private:
     void answer(CRkMessageBox& box)
     {
         messages.append(box.windowTitle() + ": " + box.findChild<QLabel*>("TextMsg")->text());
-        if (QTest::qWaitForWindowExposed(&box))
+        if (comesOnScreen(&box))
             click(*box.findChild<QPushButton*>(button));
         else
             box.reject();
@@ -368,7 +369,7 @@ void tst_MainFlow::bringToFront() const
     QCursor::pos(); // Asks the display, which tells before it answers where the focus has gone.
     QCoreApplication::processEvents();
     m_dialog->activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(m_dialog.get()));
+    QVERIFY(comesToFront(m_dialog.get()));
 }
 
 void tst_MainFlow::listenTo(Dialog& dialog)
@@ -402,7 +403,7 @@ QWidget* tst_MainFlow::openPopup(const char* button) const
 {
     m_dialog->press(button);
     QWidget* popup = QApplication::activePopupWidget();
-    return popup && QTest::qWaitForWindowExposed(popup) ? popup : nullptr;
+    return popup && comesOnScreen(popup) ? popup : nullptr;
 }
 
 /// Turns the pages of the date popup's calendar to the day and clicks on it.

@@ -15,6 +15,7 @@
 #include <RkBaseUI/CRkLightDir.h>
 #include <RkBaseUI/CRkLightWgt.h>
 
+#include "support/WindowWaits.h"
 #include "widgets/SendMouse.h"
 
 #include <QApplication>
@@ -96,7 +97,7 @@ int main(int argc, char** argv)
                    QStringLiteral("probe"));
     dialog.move(0, 0);
     dialog.show();
-    if (!QTest::qWaitForWindowExposed(&dialog))
+    if (!comesOnScreen(&dialog))
         return 2;
     auto* view = dialog.findChild<CRkLightDir*>();
     QWidget* target = dialog.childAt(view->mapTo(&dialog, QPoint(50, 50)));

@@ -5,6 +5,7 @@
 
 #include "support/BoxAnswerer.h"
 #include "support/Brackets.h"
+#include "support/WindowWaits.h"
 #include "widgets/ExecAnd.h"
 
 #include <QAccessible>
@@ -189,7 +190,7 @@ void tst_CRkCoordFormat::formFitsItsContent()
         if (isLarge)
             dialog.setFont(font);
         dialog.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+        QVERIFY(comesOnScreen(&dialog));
         QTRY_VERIFY(latitude(dialog)->height() >= latitude(dialog)->sizeHint().height());
         QTRY_VERIFY(longitude(dialog)->height() >= longitude(dialog)->sizeHint().height());
         QVERIFY(form(dialog).width() >= 327);

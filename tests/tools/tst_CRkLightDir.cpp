@@ -3,6 +3,7 @@
 
 #include <RkBaseUI/CRkLightDir.h>
 
+#include "support/WindowWaits.h"
 #include "widgets/AtScale.h"
 #include "widgets/Render.h"
 #include "widgets/SendMouse.h"
@@ -132,7 +133,7 @@ std::unique_ptr<View> shownView(QSize size = {200, 200})
     auto view = std::make_unique<View>();
     view->resize(size);
     view->show();
-    if (!QTest::qWaitForWindowExposed(view.get()) || !view->isValid())
+    if (!comesOnScreen(view.get()) || !view->isValid())
         return nullptr;
     view->makeCurrent();
     return view;
@@ -593,7 +594,7 @@ void tst_CRkLightDir::sizes()
     view.slotUpdateAngle(180, 20);
     view.resize(size);
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(comesOnScreen(&window));
     window.grab();
     view.resize(200, 200);
     QVERIFY(isRed(view.grabFramebuffer().pixelColor(inPicture(inScene(180, 20), {200, 200}))));
@@ -611,7 +612,7 @@ void tst_CRkLightDir::manyViews()
         layout->addWidget(views.last());
     }
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(comesOnScreen(&window));
     delete views.takeAt(1);
     const QImage picture = window.grab().toImage();
     QCOMPARE(picture.pixelColor(views[0]->mapTo(&window, {2, 2})), QColor(51, 51, 51));
@@ -630,7 +631,7 @@ void tst_CRkLightDir::reparented()
     for (QWidget* window : {&first, &second}) {
         window->resize(200, 200);
         window->show();
-        QVERIFY(QTest::qWaitForWindowExposed(window));
+        QVERIFY(comesOnScreen(window));
     }
     auto* view = new View(&first);
     view->slotUpdateAngle(180, 20);

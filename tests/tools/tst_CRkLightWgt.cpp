@@ -6,6 +6,7 @@
 #include <RkBaseUI/SharedHelpers.h>
 
 #include "support/Brackets.h"
+#include "support/WindowWaits.h"
 #include "widgets/Render.h"
 #include "widgets/SendMouse.h"
 
@@ -23,8 +24,8 @@
 #include <QSignalSpy>
 #include <QSlider>
 #include <QTest>
-#include <QTranslator>
 #include <QtMath>
+#include <QTranslator>
 
 #include <cmath>
 #include <limits>
@@ -446,7 +447,7 @@ void tst_CRkLightWgt::printsNothing()
     CRkLightWgt dialog(nullptr);
     dialog.InitWgt(sample(), "light");
     dialog.show();
-    const bool isExposed = QTest::qWaitForWindowExposed(&dialog);
+    const bool isExposed = comesOnScreen(&dialog);
     dialog.grab();
     qInstallMessageHandler(before);
     QVERIFY(isExposed);
@@ -468,7 +469,7 @@ void tst_CRkLightWgt::nothingIsCutOff()
         QVERIFY(QCoreApplication::installTranslator(translator.get()));
     CRkLightWgt dialog(nullptr);
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(comesOnScreen(&dialog));
     QCOMPARE(dialog.size(), QSize(455, 572));
     for (const QLabel* label : dialog.findChild<QWidget*>("RkLightWgt")->findChildren<QLabel*>()) {
         QVERIFY2(label->width() >= label->sizeHint().width()
@@ -769,7 +770,7 @@ void tst_CRkLightWgt::numbersThatAreNone()
     QFETCH(double, z);
     CRkLightWgt dialog(nullptr);
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(comesOnScreen(&dialog));
     QVariantList record = sample();
     record[0] = x;
     record[1] = y;
@@ -961,7 +962,7 @@ void tst_CRkLightWgt::dragInTheView()
     azimuth(dialog)->setValue(5);
     elevation(dialog)->setValue(180);
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(comesOnScreen(&dialog));
     const QPoint place = dialog.pos();
     Recorder sent(dialog);
     auto* view = part<CRkLightDir>(dialog, "widget");
@@ -1083,7 +1084,7 @@ void tst_CRkLightWgt::colorDialogCanBeRead()
     dialog.show();
     swatch(dialog, "light")->click();
     auto* colors = dialog.findChild<QColorDialog*>();
-    QVERIFY(QTest::qWaitForWindowExposed(colors));
+    QVERIFY(comesOnScreen(colors));
     QImage image(colors->size(), QImage::Format_ARGB32_Premultiplied);
     image.fill(Qt::transparent);
     colors->render(&image, {}, {}, QWidget::DrawWindowBackground | QWidget::DrawChildren);

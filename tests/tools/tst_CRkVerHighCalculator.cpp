@@ -5,6 +5,7 @@
 
 #include "support/BoxAnswerer.h"
 #include "support/Brackets.h"
+#include "support/WindowWaits.h"
 #include "widgets/AtScale.h"
 #include "widgets/ExecAnd.h"
 #include "widgets/Render.h"
@@ -269,7 +270,7 @@ void tst_CRkVerHighCalculator::pictureIsSharpAtEveryScale()
     QCoreApplication::setAttribute(Qt::AA_UseHighDpiPixmaps);
     CRkVerHighCalculator dialog(nullptr);
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(comesOnScreen(&dialog));
     auto* label = part<QLabel>(dialog, "label_22");
     QCOMPARE(label->size(), QSize(141, 186));
 

@@ -5,6 +5,7 @@
 #include <RkBaseUI/CRkVolumeWgt.h>
 #include <RkBaseUI/SharedHelpers.h>
 
+#include "support/WindowWaits.h"
 #include "widgets/ExecAnd.h"
 #include "widgets/Render.h"
 
@@ -327,7 +328,7 @@ void tst_CRkVolumeWgt::formColours()
     window.show();
     auto& button = part<QPushButton>(window, "btn_grid_generate");
     QWindow* handle = window.windowHandle();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(comesOnScreen(&window));
     const QPoint plate = button.mapTo(&window, QPoint(8, 12));
     const auto buttonColour = [&] { return colorAt(rendered(button, scale), {8, 12}); };
     QTest::mouseMove(handle, QPoint(20, 560));
@@ -641,7 +642,7 @@ void tst_CRkVolumeWgt::changesAreSeen()
     window.InitWgt();
     window.slotGridPt({}, {});
     window.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(comesOnScreen(&window));
     QCoreApplication::processEvents();
 
     PaintCounter paints(*table(window).viewport());
@@ -733,7 +734,7 @@ void tst_CRkVolumeWgt::editorInChinese()
     const auto window = windowWith({10, 12, 14, 16});
     design(*window).setCurrentIndex(2);
     window->show();
-    QVERIFY(QTest::qWaitForWindowExposed(window.get()));
+    QVERIFY(comesOnScreen(window.get()));
     QTableWidget& points = table(*window);
     const auto before = allTexts(*window);
     const auto openEditor = [&] {

@@ -3,6 +3,8 @@
 
 #pragma once
 
+#include "support/WindowWaits.h"
+
 #include <QDialog>
 #include <QTest>
 #include <QTimer>
@@ -12,7 +14,7 @@ template <typename Dialog, typename Action>
 int execAnd(Dialog& dialog, const Action& action)
 {
     QTimer::singleShot(0, &dialog, [&dialog, &action] {
-        if (QTest::qWaitForWindowExposed(&dialog))
+        if (comesOnScreen(&dialog))
             action();
         else
             dialog.reject();

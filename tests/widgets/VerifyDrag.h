@@ -3,16 +3,19 @@
 
 #pragma once
 
+#include "support/WindowWaits.h"
+
 #include <QTest>
 #include <QWidget>
 #include <QWindow>
 
-/// Verifies that the window follows the mouse from a press at `at` until the release, and no longer.
+/// Verifies that the window follows the mouse from a press at `at` until the release, and no
+/// longer.
 inline void verifyDrag(QWidget& dialog, QPoint at)
 {
     dialog.move(100, 120);
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(comesOnScreen(&dialog));
     QWindow* window = dialog.windowHandle();
 
     QTest::mousePress(window, Qt::LeftButton, {}, at);

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
 #include "Render.h"
+#include "support/WindowWaits.h"
 
 #include <RkBaseUI/CRkActionView.h>
 
@@ -152,7 +153,7 @@ void tst_CRkActionView::pickWithTheMouse()
     view.AddItem("Area", ":/tool2_area_nor.png", tool(4));
     view.resize(150, 120);
     view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    QVERIFY(comesOnScreen(&view));
     QSignalSpy picked(&view, &CRkActionView::ActionClicked);
     QWidget* viewport = listOf(view)->viewport();
     const auto middle = [&view](int row) {
@@ -327,7 +328,7 @@ void tst_CRkActionView::hoveredItemIsRed()
     view.AddItem("i", QString(), tool(2));
     view.resize(150, 120);
     view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    QVERIFY(comesOnScreen(&view));
     QWidget* viewport = listOf(view)->viewport();
     const QPoint first = listOf(view)->visualItemRect(listOf(view)->item(0)).center();
     const QPoint second = listOf(view)->visualItemRect(listOf(view)->item(1)).center();
@@ -361,7 +362,7 @@ void tst_CRkActionView::iconSize()
     view.AddItem(QString(), iconPath(folder), tool(1));
     view.resize(150, 120);
     view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    QVERIFY(comesOnScreen(&view));
     const QImage image = rendered(*listOf(view)->viewport(), 1);
     QRect blue;
     for (int y = 0; y < image.height(); ++y) {
@@ -382,7 +383,7 @@ void tst_CRkActionView::manyItems()
         view.AddItem(QString::number(i), ":/tool2_line_nor.png", tool(i));
     QCOMPARE(view.GetItemCount(), count);
     view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    QVERIFY(comesOnScreen(&view));
     QVERIFY(view.height() < 200);
     QSignalSpy picked(&view, &CRkActionView::ActionClicked);
     view.SetItemClicked(tool(count - 1));
@@ -406,7 +407,7 @@ void tst_CRkActionView::oddTexts()
     view.setLayoutDirection(Qt::RightToLeft);
     view.AddItem(text, QString(), tool(1));
     view.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&view));
+    QVERIFY(comesOnScreen(&view));
     const QListWidgetItem* item = listOf(view)->item(0);
     QCOMPARE(item->text(), text);
     QCOMPARE(listOf(view)->visualItemRect(item).height(), 40);

@@ -3,6 +3,7 @@
 
 #include <RkBaseUI/CRkBaseDialog.h>
 
+#include "support/WindowWaits.h"
 #include "widgets/AtScale.h"
 
 #include <QApplication>
@@ -81,7 +82,7 @@ void tst_CRkBaseDialogLook::colours()
     Dialog dialog(nullptr);
     dialog.move(100, 120);
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(comesOnScreen(&dialog));
     QWindow* window = dialog.windowHandle();
     const auto colorAt = [&dialog](QPoint at) {
         const QImage image = dialog.grab().toImage();

@@ -3,6 +3,7 @@
 
 #include <RkBaseUI/CRkBaseWidget.h>
 
+#include "support/WindowWaits.h"
 #include "widgets/SendMouse.h"
 
 #include <QApplication>
@@ -79,7 +80,7 @@ void tst_CRkBaseWidget::dragAnywhere()
     QLabel label("text", &widget);
     label.setGeometry(20, 20, 30, 20);
     widget.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    QVERIFY(comesOnScreen(&widget));
     QWindow* window = widget.windowHandle();
 
     QTest::mousePress(window, Qt::LeftButton, {}, at);
@@ -98,7 +99,7 @@ void tst_CRkBaseWidget::rightButtonDoesNotDrag()
     CRkBaseWidget widget(nullptr);
     widget.setGeometry(100, 120, 200, 150);
     widget.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    QVERIFY(comesOnScreen(&widget));
     QWindow* window = widget.windowHandle();
 
     QTest::mousePress(window, Qt::RightButton, {}, QPoint(50, 50));

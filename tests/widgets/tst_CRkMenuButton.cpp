@@ -7,6 +7,7 @@
 #include <RkBaseUI/CRkActionView.h>
 #include <RkBaseUI/CRkMenuButton.h>
 
+#include "support/WindowWaits.h"
 #include "widgets/AtScale.h"
 
 #include <QCursor>
@@ -353,7 +354,7 @@ void tst_CRkMenuButton::keyboard()
 void tst_CRkMenuButton::listOpensAtTheMouseAndCloses()
 {
     Button menu;
-    QVERIFY(QTest::qWaitForWindowExposed(&menu));
+    QVERIFY(comesOnScreen(&menu));
     QCursor::setPos(411, 322);
     menu.slotShowPopMenu();
     QVERIFY(actionView()->isVisible());
@@ -403,11 +404,11 @@ void tst_CRkMenuButton::pressOnOpenList()
     QFETCH(bool, openAfterPress);
     QFETCH(QStringList, heard);
     Button menu;
-    QVERIFY(QTest::qWaitForWindowExposed(&menu));
+    QVERIFY(comesOnScreen(&menu));
     QCursor::setPos(600, 500);
     menu.slotShowPopMenu();
     CRkActionView* view = actionView();
-    QVERIFY(QTest::qWaitForWindowExposed(view));
+    QVERIFY(comesOnScreen(view));
     // An open popup is sent all that the mouse does.
     const QPoint inView = view->mapFromGlobal(menu.mapToGlobal(at));
     sendMouse(*view, QEvent::MouseButtonPress, inView, button, button);
@@ -422,11 +423,11 @@ void tst_CRkMenuButton::pressOnOpenList()
 void tst_CRkMenuButton::pressInListOverTheCorner()
 {
     Button menu;
-    QVERIFY(QTest::qWaitForWindowExposed(&menu));
+    QVERIFY(comesOnScreen(&menu));
     QCursor::setPos(menu.mapToGlobal({80, 30}));
     menu.slotShowPopMenu();
     CRkActionView* view = actionView();
-    QVERIFY(QTest::qWaitForWindowExposed(view));
+    QVERIFY(comesOnScreen(view));
     const QPoint inView(3, 3);
     QVERIFY(menu.rect().contains(menu.mapFromGlobal(view->mapToGlobal(inView))));
     for (const Qt::MouseButton button : {Qt::LeftButton, Qt::RightButton}) {
@@ -441,7 +442,7 @@ void tst_CRkMenuButton::keysInTheList()
 {
     Button menu;
     menu.slotShowPopMenu();
-    QVERIFY(QTest::qWaitForWindowExposed(actionView()));
+    QVERIFY(comesOnScreen(actionView()));
     QTest::keyClick(actionView(), Qt::Key_Escape);
     QVERIFY(!actionView()->isVisible());
     QVERIFY(!menu.property("ToolType").isValid());
@@ -489,7 +490,7 @@ void tst_CRkMenuButton::pickInTheList()
     menu.setCheckable(true);
     menu.AddAction("Line", ":/images/Normal/tool2_line_nor.png", tool(12));
     menu.slotShowPopMenu();
-    QVERIFY(QTest::qWaitForWindowExposed(actionView()));
+    QVERIFY(comesOnScreen(actionView()));
     QTest::mouseClick(actionList()->viewport(), Qt::LeftButton, {},
                       actionList()->visualItemRect(actionList()->item(0)).center());
     QCOMPARE(menu.property("ToolType"), QVariant(12));
@@ -564,7 +565,7 @@ void tst_CRkMenuButton::picturesOfThePick()
     menu.setDown(true);
     QCOMPARE(middle(), QColor(Qt::blue));
     menu.setDown(false);
-    QVERIFY(QTest::qWaitForWindowExposed(&menu));
+    QVERIFY(comesOnScreen(&menu));
     QTest::mouseMove(&menu, QPoint(1, 1));
     QTest::mouseMove(&menu, QPoint(50, 20));
     QTRY_COMPARE(middle(), QColor(Qt::yellow));
@@ -640,7 +641,7 @@ void tst_CRkMenuButton::manyActions()
     Button menu(10000);
     QCOMPARE(actionView()->GetItemCount(), 10000);
     menu.slotShowPopMenu();
-    QVERIFY(QTest::qWaitForWindowExposed(actionView()));
+    QVERIFY(comesOnScreen(actionView()));
     QVERIFY(actionView()->height() < 200);
     menu.slotShowPopMenu();
     menu.SetBtnState(tool(9999));

@@ -3,6 +3,7 @@
 
 #include <RkBaseUI/CRkMessageBox.h>
 
+#include "support/WindowWaits.h"
 #include "widgets/AtScale.h"
 #include "widgets/ExecAnd.h"
 #include "widgets/Render.h"
@@ -224,7 +225,7 @@ void tst_CRkMessageBox::textFitsTheBox()
     CRkMessageBox box(nullptr);
     box.SetMsgText(message);
     box.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    QVERIFY(comesOnScreen(&box));
     const QLabel& label = text(box);
     QVERIFY(label.width() >= label.fontMetrics()
                                  .boundingRect(QRect(0, 0, label.width(), 0),
@@ -247,7 +248,7 @@ void tst_CRkMessageBox::endlessTextLeavesTheButtonsOnTheScreen()
     CRkMessageBox box(nullptr);
     box.SetMsgText(message);
     box.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    QVERIFY(comesOnScreen(&box));
     QCOMPARE(text(box).text(), message);
     const QSize available = box.screen()->availableSize();
     QVERIFY(box.width() <= available.width());
@@ -282,7 +283,7 @@ void tst_CRkMessageBox::linkOpensInTheBrowser()
     box.SetOpenExteranlLinks(true);
     box.SetMsgText(QStringLiteral("<a href=\"http://127.0.0.1/help\">MMMMMMMM</a>"));
     box.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&box));
+    QVERIFY(comesOnScreen(&box));
     QTest::mouseClick(&text(box), Qt::LeftButton);
     QDesktopServices::unsetUrlHandler(QStringLiteral("http"));
     QCOMPARE(browser.opened, QList<QUrl>{QUrl("http://127.0.0.1/help")});

@@ -4,6 +4,7 @@
 #include <RkBaseUI/CRkParameterEditPage.h>
 
 #include "support/Brackets.h"
+#include "support/WindowWaits.h"
 #include "widgets/ExecAnd.h"
 
 #include <QAccessible>
@@ -188,7 +189,7 @@ void tst_CRkParameterEditPage::look()
 {
     CRkParameterEditPage page;
     page.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&page));
+    QVERIFY(comesOnScreen(&page));
     const QRect content = placeIn(page, *part<QWidget>(page, "widget"));
     const QRect first = placeIn(page, *edit(page, 1));
     QVERIFY(first.width() >= 300);
@@ -554,7 +555,7 @@ void tst_CRkParameterEditPage::longTexts()
         QCOMPARE(page.GetElementValues(), QStringList({text, text, text, text}));
         QCOMPARE(names(page), QStringList({text, text, text, text}));
         page.show();
-        QVERIFY(QTest::qWaitForWindowExposed(&page));
+        QVERIFY(comesOnScreen(&page));
         QVERIFY2(page.width() < 560 && page.height() < 640,
                  qPrintable(QString("%1 x %2").arg(page.width()).arg(page.height())));
         QVERIFY(!page.grab().isNull());

@@ -4,6 +4,7 @@
 #include <RkBaseUI/CRkProcessDialog.h>
 
 #include "support/Brackets.h"
+#include "support/WindowWaits.h"
 
 #include "widgets/AtScale.h"
 #include "widgets/Render.h"
@@ -123,7 +124,7 @@ void tst_CRkProcessDialog::movieRunsOnTheScreen()
 {
     CRkProcessDialog dialog(nullptr);
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(comesOnScreen(&dialog));
     const auto& label = part<QLabel>(dialog, "label_movie");
     QCOMPARE(label.size(), QSize(150, 150));
     QSignalSpy frames(label.movie(), &QMovie::frameChanged);
@@ -206,7 +207,7 @@ void tst_CRkProcessDialog::endlessStateStaysOnTheScreen()
     QFETCH(QString, state);
     CRkProcessDialog dialog(nullptr);
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(comesOnScreen(&dialog));
     dialog.SetProcessState(state);
     const auto& label = part<QLabel>(dialog, "label_cur");
     QCOMPARE(label.text(), state);
@@ -239,7 +240,7 @@ void tst_CRkProcessDialog::stopClosesASecondLater()
 {
     CRkProcessDialog dialog(nullptr);
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(comesOnScreen(&dialog));
     QSignalSpy rejected(&dialog, &QDialog::rejected);
     QElapsedTimer timer;
     timer.start();

@@ -4,6 +4,7 @@
 #include <RkBaseUI/CRkProgressWgt.h>
 
 #include "support/Brackets.h"
+#include "support/WindowWaits.h"
 
 #include "widgets/Render.h"
 
@@ -159,7 +160,7 @@ void tst_CRkProgressWgt::parts()
     CRkProgressWgt widget("Upload", nullptr);
     widget.SetCurrentText("3 of 8 files");
     widget.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    QVERIFY(comesOnScreen(&widget));
     const QFont font = part<QLabel>(widget, "m_pLalTitle").font();
     QCOMPARE(font.family(), QString("Arial"));
     QCOMPARE(font.pointSize(), 9);
@@ -250,7 +251,7 @@ void tst_CRkProgressWgt::barRunsFromWhiteToGreen()
 {
     CRkProgressWgt widget("Upload", nullptr);
     widget.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    QVERIFY(comesOnScreen(&widget));
     bar(widget).setTextVisible(false);
     const int right = bar(widget).width() - 1;
     const int middle = bar(widget).height() / 2;
@@ -595,7 +596,7 @@ void tst_CRkProgressWgt::wrappedTextIsShownWhole()
 {
     CRkProgressWgt widget("Upload", nullptr);
     widget.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    QVERIFY(comesOnScreen(&widget));
     widget.SetCurrentText(QString("several words ").repeated(20));
     QCOMPARE(widget.width(), 310);
     QVERIFY(widget.height() > 144);
@@ -612,7 +613,7 @@ void tst_CRkProgressWgt::textShownLaterIsShownWhole()
     widget.VisibleText(false);
     widget.SetCurrentText(QString("several words ").repeated(20));
     widget.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    QVERIFY(comesOnScreen(&widget));
     QCOMPARE(widget.size(), QSize(310, 144));
     widget.VisibleText(true);
     const auto& text = part<QLabel>(widget, "m_pPromptLabel");
@@ -625,7 +626,7 @@ void tst_CRkProgressWgt::longTexts()
     CRkProgressWgt widget(longest, nullptr);
     widget.SetCurrentText(longest);
     widget.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&widget));
+    QVERIFY(comesOnScreen(&widget));
     QCOMPARE(prompt(widget), longest);
     QVERIFY(widget.width() < 800);
     widget.SetCurrentText(QString("a\n").repeated(50000));

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
 #include "Render.h"
+#include "support/WindowWaits.h"
 
 #include <RkBaseUI/CRkSlider.h>
 
@@ -294,7 +295,7 @@ void tst_CRkSlider::textRepaintsAtOnce()
 {
     Slider slider(nullptr);
     slider.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&slider));
+    QVERIFY(comesOnScreen(&slider));
     const int before = slider.paints;
     slider.SetHandleTextPattern("1%");
     QCOMPARE(slider.paints, before + 1);
@@ -306,7 +307,7 @@ void tst_CRkSlider::changesAreShown()
 {
     Slider slider(nullptr);
     slider.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&slider));
+    QVERIFY(comesOnScreen(&slider));
     QCoreApplication::processEvents();
     int before = slider.paints;
     slider.SetLoading(true);

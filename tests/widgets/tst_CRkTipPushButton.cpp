@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
 #include "Render.h"
+#include "support/WindowWaits.h"
 
 #include <RkBaseUI/CRkTipPushButton.h>
 
@@ -255,12 +256,12 @@ void tst_CRkTipPushButton::textColorOfTheActiveWindow()
     const auto middle = [&button] { return colorAt(rendered(button, 1), {82, 17}); };
     window.show();
     window.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&window));
+    QVERIFY(comesToFront(&window));
     QCOMPARE(middle(), QColor(Qt::blue));
     QWidget other;
     other.show();
     other.activateWindow();
-    QVERIFY(QTest::qWaitForWindowActive(&other));
+    QVERIFY(comesToFront(&other));
     QCOMPARE(middle(), QColor(Qt::green));
 }
 
@@ -287,7 +288,7 @@ void tst_CRkTipPushButton::visibilityRepaintsAtOnce()
     TipButton button(nullptr);
     button.resize(80, 30);
     button.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&button));
+    QVERIFY(comesOnScreen(&button));
     const int before = button.paints;
     button.SetTipVisible(true);
     QCOMPARE(button.paints, before + 1);
@@ -303,7 +304,7 @@ void tst_CRkTipPushButton::changesAreShown()
     button.resize(80, 30);
     button.SetTipVisible(true);
     button.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&button));
+    QVERIFY(comesOnScreen(&button));
     const auto painted = [&button](const auto& change) {
         QCoreApplication::processEvents();
         const int before = button.paints;

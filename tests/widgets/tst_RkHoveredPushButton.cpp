@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
 #include "Render.h"
+#include "support/WindowWaits.h"
 
 #include <RkBaseUI/RkHoveredPushButton.h>
 
@@ -111,7 +112,7 @@ void tst_RkHoveredPushButton::edges()
     QFETCH(QPoint, mouse);
     QFETCH(bool, hovered);
     Window window;
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(comesOnScreen(&window));
     window.moveMouseUnnoticed(mouse);
     for (const int scale : {1, 2})
         QCOMPARE(colorAt(rendered(window.button, scale), {40, 5}) == ground, hovered);
@@ -120,7 +121,7 @@ void tst_RkHoveredPushButton::edges()
 void tst_RkHoveredPushButton::hoverEventIsNotNeeded()
 {
     Window window;
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(comesOnScreen(&window));
     QVERIFY(colorAt(rendered(window.button, 1), {40, 5}) != ground);
     window.moveMouseUnnoticed({40, 20});
     QVERIFY(!window.button.underMouse());
@@ -166,7 +167,7 @@ void tst_RkHoveredPushButton::paintsAsThePlainButton()
 void tst_RkHoveredPushButton::disabledIsNotHovered()
 {
     Window window;
-    QVERIFY(QTest::qWaitForWindowExposed(&window));
+    QVERIFY(comesOnScreen(&window));
     window.moveMouseUnnoticed({40, 20});
     window.button.setEnabled(false);
     QVERIFY(colorAt(rendered(window.button, 1), {40, 5}) != ground);

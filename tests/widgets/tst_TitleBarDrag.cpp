@@ -4,6 +4,7 @@
 #include <RkBaseUI/CRkBaseDialog.h>
 #include <RkBaseUI/CRkProgressWgt.h>
 
+#include "support/WindowWaits.h"
 #include "widgets/SendMouse.h"
 #include "widgets/VerifyDrag.h"
 
@@ -128,7 +129,7 @@ void tst_TitleBarDrag::pressOffTitleBarDoesNotDrag()
     QDialog& dialog = *owner;
     dialog.move(100, 120);
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(comesOnScreen(&dialog));
     QWindow* window = dialog.windowHandle();
 
     QTest::mousePress(window, Qt::LeftButton, {}, at);
@@ -145,7 +146,7 @@ void tst_TitleBarDrag::rightButtonDoesNotDrag()
     QDialog& dialog = *owner;
     dialog.move(100, 120);
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(comesOnScreen(&dialog));
     QWindow* window = dialog.windowHandle();
 
     QTest::mousePress(window, Qt::RightButton, {}, QPoint(150, 16));
@@ -214,7 +215,7 @@ void tst_TitleBarDrag::titleBarRectangleCountsWhileHidden()
     QDialog& dialog = *owner;
     dialog.move(100, 120);
     dialog.show();
-    QVERIFY(QTest::qWaitForWindowExposed(&dialog));
+    QVERIFY(comesOnScreen(&dialog));
     dialog.findChild<QWidget*>(QStringLiteral("widget_2"))->hide();
     QCoreApplication::sendPostedEvents();
     QWindow* window = dialog.windowHandle();
