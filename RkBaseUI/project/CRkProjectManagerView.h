@@ -92,7 +92,9 @@ private:
     bool isConditionPassed(const CRkGraphicsProjectRectItem* tile,
                            const ProjectFilter& filter) const;
 
-    CRkGraphicsProjectRectItem* _addTile(const ProjectRecord& project, const QPixmap& pixmap);
+    void _addTile(CRkGraphicsProjectRectItem* tile, const ProjectRecord& project,
+                  const QPixmap& pixmap);
+    void _placeTilesFrom(int first);
     QPoint _calculateProjectItemPos(int index);
     void _open(const CRkGraphicsProjectRectItem* tile);
     /// A caption that is being edited renames its project.
