@@ -190,89 +190,118 @@ std::unique_ptr<CRkVolumeWgt> newWindow()
     return window;
 }
 
-/// Table and computation share a window: filling it anew for each would take most of the time.
+/// Seconds of each case and of its floor.
+struct WindowTimes
+{
+    double fill = 0;
+    double bareTable = 0;
+    double takeOver = 0;
+    double takeOverFloor = 0;
+    double plane = 0;
+    double barePlane = 0;
+    double compute = 0;
+    double flatCompute = 0;
+};
+
+std::vector<rk::CornerHeights> heightsOver(double design, const Grid& grid)
+{
+    std::vector<rk::CornerHeights> heights;
+    for (const auto& corners : grid.pointsOfCell) {
+        rk::CornerHeights cell;
+        for (std::size_t i = 0; i < 4; ++i)
+            cell[i] = grid.points[corners[i]].elevation - design;
+        heights.push_back(cell);
+    }
+    return heights;
+}
+
+void timeBareTable(WindowTimes& times, const Grid& grid, double average, double lowest)
+{
+    QTableWidget table(0, 5);
+    table.show();
+    QApplication::processEvents();
+    times.bareTable = bench::medianSeconds(1, [&] {
+        fillBare(table, grid, average);
+        QApplication::processEvents();
+    });
+    QHash<QString, double> heightOfPoint;
+    for (const rk::GridPoint& point : grid.points)
+        heightOfPoint.insert(point.name, 0.0);
+    times.barePlane = bench::medianSeconds(1, [&] {
+        changeBare(table, grid, average, lowest, heightOfPoint);
+        QApplication::processEvents();
+    });
+}
+
+double secondsToTakeOver(CRkVolumeWgt& window, const Map& points, const Map& cells)
+{
+    return bench::medianSeconds(1, [&] {
+        window.slotGridPt(points, cells);
+        QApplication::processEvents();
+    });
+}
+
+/// By turns with the floor, so that both find the memory as the other leaves it.
+void timeComputation(WindowTimes& times, CRkVolumeWgt& window, const Grid& grid,
+                     const std::vector<rk::CornerHeights>& heights)
+{
+    std::vector<double> ours;
+    std::vector<double> floor;
+    for (int turn = 0; turn < turns; ++turn) {
+        QVariantMap flat;
+        QVariantMap volumes;
+        floor.push_back(bench::medianSeconds(1, [&] { flat = computedFlat(grid, heights); }));
+        const auto connection =
+            QObject::connect(&window, &CRkVolumeWgt::signalVolumeComplete, &window,
+                             [&](const QVariant& result) { volumes = result.toMap(); });
+        ours.push_back(bench::medianSeconds(1, [&] { window.slotClickDesignComputer(); }));
+        QObject::disconnect(connection);
+        require(volumes == flat, "the two computations differ");
+    }
+    times.compute = medianOf(ours);
+    times.flatCompute = medianOf(floor);
+}
+
 bool reportWindow(const Grid& grid, int size, int runs)
 {
     const double average = rk::levelGrid(grid.points, grid.cells).elevation;
     double lowest = grid.points.front().elevation;
     for (const rk::GridPoint& point : grid.points)
         lowest = std::min(lowest, point.elevation);
-    std::vector<rk::CornerHeights> heights;
-    for (const auto& corners : grid.pointsOfCell) {
-        rk::CornerHeights cell;
-        for (std::size_t i = 0; i < 4; ++i)
-            cell[i] = grid.points[corners[i]].elevation - average;
-        heights.push_back(cell);
-    }
+    const std::vector<rk::CornerHeights> heights = heightsOver(average, grid);
 
-    std::vector<std::array<double, 8>> seconds;
+    std::vector<WindowTimes> runTimes;
     for (int run = 0; run < runs; ++run) {
-        std::array<double, 8> times{};
-        {
-            QTableWidget table(0, 5);
-            table.show();
-            QApplication::processEvents();
-            times[1] = bench::medianSeconds(1, [&] {
-                fillBare(table, grid, average);
-                QApplication::processEvents();
-            });
-            QHash<QString, double> heightOfPoint;
-            for (const rk::GridPoint& point : grid.points)
-                heightOfPoint.insert(point.name, 0.0);
-            times[5] = bench::medianSeconds(1, [&] {
-                changeBare(table, grid, average, lowest, heightOfPoint);
-                QApplication::processEvents();
-            });
-        }
-        {
-            const auto window = newWindow();
-            times[0] = bench::medianSeconds(1, [&] {
-                window->slotGridPt(grid.pointMap, {});
-                QApplication::processEvents();
-            });
-        }
+        WindowTimes times;
+        timeBareTable(times, grid, average, lowest);
+        times.fill = secondsToTakeOver(*newWindow(), grid.pointMap, {});
+        // The rest shares a window: filling it anew for each would take most of the time.
         const auto window = newWindow();
-        times[2] = bench::medianSeconds(1, [&] {
-            window->slotGridPt(grid.pointMap, grid.cellMap);
-            QApplication::processEvents();
-        });
-        times[3] = times[1] + bench::medianSeconds(1, [&] { levelledFlat(grid); });
-
-        // By turns, so that both find the memory as the other leaves it.
-        std::vector<double> ours;
-        std::vector<double> floor;
-        for (int turn = 0; turn < turns; ++turn) {
-            QVariantMap flat;
-            QVariantMap volumes;
-            floor.push_back(bench::medianSeconds(1, [&] { flat = computedFlat(grid, heights); }));
-            const auto connection =
-                QObject::connect(window.get(), &CRkVolumeWgt::signalVolumeComplete, window.get(),
-                                 [&](const QVariant& result) { volumes = result.toMap(); });
-            ours.push_back(bench::medianSeconds(1, [&] { window->slotClickDesignComputer(); }));
-            QObject::disconnect(connection);
-            require(volumes == flat, "the two computations differ");
-        }
-        times[6] = medianOf(ours);
-        times[7] = medianOf(floor);
-
-        times[4] = bench::medianSeconds(1, [&] {
+        times.takeOver = secondsToTakeOver(*window, grid.pointMap, grid.cellMap);
+        times.takeOverFloor =
+            times.bareTable + bench::medianSeconds(1, [&] { levelledFlat(grid); });
+        timeComputation(times, *window, grid, heights);
+        times.plane = bench::medianSeconds(1, [&] {
             window->findChild<QComboBox*>("comboBox_design")->setCurrentIndex(1);
             QApplication::processEvents();
         });
-        seconds.push_back(times);
+        runTimes.push_back(times);
     }
-    const auto median = [&](std::size_t position) {
+    const auto median = [&](double WindowTimes::*seconds) {
         std::vector<double> values;
-        for (const auto& times : seconds)
-            values.push_back(times[position]);
+        for (const WindowTimes& times : runTimes)
+            values.push_back(times.*seconds);
         return medianOf(values);
     };
     const bool met[] = {
-        bench::report("fill the table / bare table", size, median(0), median(1), 1.3),
-        bench::report("take a grid over / flat pass and bare table", size, median(2), median(3),
-                      1.3),
-        bench::report("another plane / bare table and map", size, median(4), median(5), 2),
-        bench::report("compute / flat pass and result map", size, median(6), median(7), 4),
+        bench::report("fill the table / bare table", size, median(&WindowTimes::fill),
+                      median(&WindowTimes::bareTable), 1.3),
+        bench::report("take a grid over / flat pass and bare table", size,
+                      median(&WindowTimes::takeOver), median(&WindowTimes::takeOverFloor), 1.3),
+        bench::report("another plane / bare table and map", size, median(&WindowTimes::plane),
+                      median(&WindowTimes::barePlane), 2),
+        bench::report("compute / flat pass and result map", size, median(&WindowTimes::compute),
+                      median(&WindowTimes::flatCompute), 4),
     };
     return std::all_of(std::begin(met), std::end(met), [](bool ok) { return ok; });
 }

@@ -785,16 +785,6 @@ instructions:</source>
         <source>Fill:</source>
         <translation>填方：</translation>
     </message>
-</context>
-<context>
-    <name>RkCityCategory</name>
-    <message>
-        <source>N/A</source>
-        <translation>无</translation>
-    </message>
-</context>
-<context>
-    <name>RkVolumeWgt</name>
     <message>
         <source>Grid</source>
         <translation>方格网</translation>
@@ -844,6 +834,13 @@ instructions:</source>
     <message>
         <source>Result</source>
         <translation>计算结果</translation>
+    </message>
+</context>
+<context>
+    <name>RkCityCategory</name>
+    <message>
+        <source>N/A</source>
+        <translation>无</translation>
     </message>
 </context>
 </TS>

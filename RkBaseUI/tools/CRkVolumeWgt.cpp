@@ -154,7 +154,7 @@ void wrapHeader(QHeaderView& header)
 
 CRkVolumeWgt::CRkVolumeWgt(QWidget* parent)
     : CRkBaseDialog(parent)
-    , m_form(std::make_unique<Ui::RkVolumeWgt>())
+    , m_form(std::make_unique<Ui::CRkVolumeWgt>())
 {
     auto* form = new QWidget(this);
     m_form->setupUi(form);
@@ -169,8 +169,7 @@ CRkVolumeWgt::CRkVolumeWgt(QWidget* parent)
     SetWindowTitle(tr("Earthwork measurement"));
     wrapHeader(*m_form->tableWidget->horizontalHeader());
     resize(formSize + QSize(0, sizeHint().height() - form->sizeHint().height()));
-    if (isWindow())
-        m_form->doubleSpinBox_grid->setFocus();
+    m_form->doubleSpinBox_grid->setFocus();
 
     ConnectEvent();
 }

@@ -18,7 +18,7 @@
 class CRkTableDelegate;
 
 namespace Ui {
-class RkVolumeWgt;
+class CRkVolumeWgt;
 }
 
 /// Window that measures earthwork over a grid of squares by the square-grid method (see
@@ -103,7 +103,7 @@ private:
 
     void _appendRows(const std::vector<rk::GridPoint>& points);
 
-    const std::unique_ptr<Ui::RkVolumeWgt> m_form;
+    const std::unique_ptr<Ui::CRkVolumeWgt> m_form;
     std::unique_ptr<CRkTableDelegate> m_pTableDelegate;
     /// Texts of the design planes in the language of `InitWgt`, which the user still sees after the
     /// application has changed its own.

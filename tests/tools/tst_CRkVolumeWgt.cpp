@@ -5,6 +5,7 @@
 #include <RkBaseUI/CRkVolumeWgt.h>
 #include <RkBaseUI/SharedHelpers.h>
 
+#include "support/Brackets.h"
 #include "support/WindowWaits.h"
 #include "widgets/ExecAnd.h"
 #include "widgets/Render.h"
@@ -166,6 +167,7 @@ private slots:
     void formColours_data();
     void formColours();
     void namesForEverybody();
+    void textsAreTranslatedInTheClass();
     void headerShowsItsTexts_data();
     void headerShowsItsTexts();
 
@@ -196,6 +198,7 @@ private slots:
     void fieldsOfSpinBoxChanged();
 
     void computesOneCell();
+    void resultIsShownBeforeItIsReported();
     void computesNothing();
     void flatTerrain();
     void signOfFill();
@@ -366,6 +369,37 @@ void tst_CRkVolumeWgt::namesForEverybody()
         buddies.insert(label->buddy());
     QVERIFY(buddies.contains(&part<QWidget>(window, "doubleSpinBox_grid")));
     QVERIFY(buddies.contains(&part<QWidget>(window, "comboBox_design")));
+}
+
+/// Those of the form, too.
+void tst_CRkVolumeWgt::textsAreTranslatedInTheClass()
+{
+    Brackets brackets("CRkVolumeWgt");
+    QCoreApplication::installTranslator(&brackets);
+    const CRkVolumeWgt untouched;
+    const auto window = windowWith({10, 12, 14, 16});
+    window->slotClickDesignComputer();
+    QCoreApplication::removeTranslator(&brackets);
+
+    QStringList shown = {window->windowTitle(), result(untouched)};
+    const auto& form = part<QWidget>(*window, "RkVolumeWgt");
+    for (const QLabel* label : form.findChildren<QLabel*>())
+        shown.append(label->text());
+    for (const QGroupBox* box : form.findChildren<QGroupBox*>())
+        shown.append(box->title());
+    for (const QPushButton* button : form.findChildren<QPushButton*>())
+        shown.append(button->text());
+    for (int i = 0; i < design(*window).count(); ++i)
+        shown.append(design(*window).itemText(i));
+    for (int column = 0; column < 5; ++column)
+        shown.append(table(*window).horizontalHeaderItem(column)->text());
+    for (const char* name : {"tableWidget", "textEdit"})
+        shown.append(part<QWidget>(*window, name).accessibleName());
+    QCOMPARE(shown.size(), 2 + 3 + 2 + 4 + 3 + 5 + 2);
+    for (const QString& text : qAsConst(shown))
+        QVERIFY2(text.startsWith('[') && text.endsWith(']'), qPrintable(text));
+    QCOMPARE(result(*window),
+             QString("[Area:]400.00m^2\n[Excavation:]200.00m^3\n[Fill:]-200.00m^3"));
 }
 
 void tst_CRkVolumeWgt::headerShowsItsTexts_data()
@@ -819,6 +853,16 @@ void tst_CRkVolumeWgt::computesOneCell()
     // each trapezium is half of the square, and (5 + 15) x 20 x 4 / 8 = 200.
     QCOMPARE(computed(*window), QVariantMap({{"A", QVariantList{200.0, -200.0}}}));
     QCOMPARE(result(*window), QString("Area:400.00m^2\nExcavation:200.00m^3\nFill:-200.00m^3"));
+}
+
+void tst_CRkVolumeWgt::resultIsShownBeforeItIsReported()
+{
+    const auto window = windowWith({10, 12, 14, 16});
+    QString shown;
+    connect(window.get(), &CRkVolumeWgt::signalVolumeComplete, this,
+            [&] { shown = result(*window); });
+    window->slotClickDesignComputer();
+    QCOMPARE(shown, QString("Area:400.00m^2\nExcavation:200.00m^3\nFill:-200.00m^3"));
 }
 
 void tst_CRkVolumeWgt::computesNothing()
