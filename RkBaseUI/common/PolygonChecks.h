@@ -21,8 +21,8 @@
 
 /// Whether all turns of the outline have the same sense. Fewer than 4 vertices always count as
 /// convex. A straight vertex or a repeated one counts as a turn to the negative side, so it keeps
-/// an outline convex whose turns are negative, and spoils one whose turns are positive. Exact:
-/// nothing is rounded off.
+/// an outline convex whose turns are negative, and spoils one whose turns are positive. Turns are
+/// computed in doubles, without a tolerance.
 RKBASEUI_EXPORT bool isConvex(std::vector<QPointF> polygon);
 
 /// Whether some edge meets more than two of the others. Every edge of a simple outline meets its

@@ -35,6 +35,7 @@ RKBASEUI_EXPORT QMap<QString, QString> GetSearchRet(const QString& keyword);
 
 /// The project in an SQLite file as compact JSON: the project's row with its survey areas under
 /// "blocks", each with its flight tasks under "tasks", and the marker points under "points"; an
-/// empty list is left out. "{}" for a file that is missing, no database or without a project. The
-/// file is not changed, and not made when it is missing.
+/// empty list is left out. "{}" for a file that is missing, no database or without a project, and
+/// for one where such a table is a view, a virtual table or has a generated column. The file is not
+/// changed, and not made when it is missing.
 RKBASEUI_EXPORT QByteArray GetUploadArray(const QString& dbPath);

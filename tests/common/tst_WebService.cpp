@@ -270,7 +270,10 @@ void tst_WebService::onlyTheJsonDecides()
     server.answer = answer;
     SetServerIP(server.address());
     QVERIFY(findsCentre());
-    QCOMPARE(server.requestLines.size(), 1); // Redirections are not followed.
+    // Redirections are not followed. On a busy machine the toolkit may ask twice where the answer
+    // ends with its connection.
+    const QByteArray asked = "GET /bing/location HTTP/1.1";
+    QCOMPARE(server.requestLines.count(asked), server.requestLines.size());
 }
 
 void tst_WebService::answersThatAreNone_data()
@@ -405,7 +408,8 @@ void tst_WebService::answersWithoutEndAreNotKept()
     QVERIFY2(elapsed <= locationLimit + 200 + heartbeat.largestGap(),
              qPrintable(QString::number(elapsed)));
     QVERIFY(server.refrainsTaken > 0);
-    constexpr qint64 most = 64 * 1024 * 1024; // What is on its way included.
+    // The buffers on its way, the toolkit's and the system's, hold as much again and more.
+    constexpr qint64 most = 128 * 1024 * 1024;
     QVERIFY2(server.refrainsTaken < most, qPrintable(QString::number(server.refrainsTaken)));
     QTRY_COMPARE(server.openConnections(), 0);
 }
