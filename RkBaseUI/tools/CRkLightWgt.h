@@ -38,6 +38,9 @@ class CRkLightWgt;
 ///
 /// The distance of the position from the origin is kept, its direction shown as azimuth and
 /// elevation. The position sent is `rk::lightPosition` of these, not the one received.
+///
+/// The window in which the user picks a colour knows no transparency: opened for a translucent one,
+/// it makes it opaque and sends that.
 class RKBASEUI_EXPORT CRkLightWgt : public CRkBaseDialog
 {
     Q_OBJECT

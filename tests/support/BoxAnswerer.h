@@ -29,6 +29,15 @@ class BoxAnswerer : public QObject
 public:
     BoxAnswerer() { qApp->installEventFilter(this); }
 
+    /// Of the boxes so far.
+    QStringList texts() const
+    {
+        QStringList texts;
+        for (const ShownBox& box : boxes)
+            texts.append(box.text);
+        return texts;
+    }
+
     QList<ShownBox> boxes;
     QString button = QStringLiteral("m_pBtnOK");
     /// What happens while the box is up; nothing when empty.

@@ -7,6 +7,7 @@
 #include "support/Brackets.h"
 #include "support/WindowWaits.h"
 #include "widgets/ExecAnd.h"
+#include "widgets/KeyboardFocus.h"
 
 #include <QAccessible>
 #include <QDoubleValidator>
@@ -81,14 +82,6 @@ QStringList converted(const CRkCoordFormat& dialog)
     QStringList lng;
     dialog.ConvertToDMSCoord(lat, lng);
     return lat + lng;
-}
-
-QStringList texts(const QList<ShownBox>& boxes)
-{
-    QStringList texts;
-    for (const ShownBox& box : boxes)
-        texts.append(box.text);
-    return texts;
 }
 
 /// One row for each format, with the name of its button.
@@ -230,7 +223,7 @@ void tst_CRkCoordFormat::textsAreOfTheClassContext()
     okButton(dialog)->click();
     fill(dialog, "91", "0");
     okButton(dialog)->click();
-    QCOMPARE(texts(answerer.boxes), QStringList({'[' + missing + ']', '[' + invalid + ']'}));
+    QCOMPARE(answerer.texts(), QStringList({'[' + missing + ']', '[' + invalid + ']'}));
     QCOMPARE(answerer.boxes.at(0).title, '[' + title + ']');
     QCOMPARE(answerer.boxes.at(1).title, '[' + title + ']');
 }
@@ -297,30 +290,17 @@ void tst_CRkCoordFormat::typingInAnotherLocale()
 void tst_CRkCoordFormat::tabOrder()
 {
     CRkCoordFormat dialog(nullptr);
-    dialog.show();
-    QApplication::setActiveWindow(&dialog);
-    QTRY_VERIFY(dialog.isActiveWindow());
-    QVERIFY(okButton(dialog)->isDefault());
     // Tab goes to the button of the group that is checked.
     const QStringList expected = {"m_pEdtCoordLat", "m_pEdtCoordLng", "m_pBtnOK",
                                   "m_pBtnCancel",   "m_pBtnClose",    "m_pRdoDec",
                                   "m_pEdtCoordLat"};
-    QStringList order;
-    while (order.size() < expected.size()) {
-        const QWidget* focused = QApplication::focusWidget();
-        order.append(focused ? focused->objectName() : QString());
-        QTest::keyClick(&dialog, Qt::Key_Tab);
-    }
-    QCOMPARE(order, expected);
+    QCOMPARE(tabStops(dialog, expected.size()), expected);
+    QVERIFY(okButton(dialog)->isDefault());
 }
 
 void tst_CRkCoordFormat::embeddedDialogTakesNoFocus()
 {
-    QWidget parent;
-    auto* other = new QLineEdit(&parent);
-    other->setFocus();
-    const CRkCoordFormat dialog(&parent);
-    QCOMPARE(parent.focusWidget(), other);
+    QVERIFY(leavesFocusWhenEmbedded<CRkCoordFormat>());
 }
 
 void tst_CRkCoordFormat::accessibleNames()
@@ -452,7 +432,7 @@ void tst_CRkCoordFormat::conversionOfAnEmptyField()
         fill(dialog, lat, lng);
         QCOMPARE(converted(dialog), QStringList());
     }
-    QCOMPARE(texts(answerer.boxes), QStringList());
+    QCOMPARE(answerer.texts(), QStringList());
 }
 
 void tst_CRkCoordFormat::accepts_data()
@@ -488,7 +468,7 @@ void tst_CRkCoordFormat::accepts()
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
         QCOMPARE(fields(dialog), QStringList({lat, lng}));
     }
-    QCOMPARE(texts(answerer.boxes), QStringList());
+    QCOMPARE(answerer.texts(), QStringList());
 }
 
 void tst_CRkCoordFormat::refuses_data()
@@ -536,7 +516,7 @@ void tst_CRkCoordFormat::refuses()
         });
         QVERIFY(staysOpen);
         QCOMPARE(result, 0);
-        QCOMPARE(texts(answerer.boxes), QStringList(message));
+        QCOMPARE(answerer.texts(), QStringList(message));
         QCOMPARE(fields(dialog), QStringList({lat, lng}));
     }
 }
@@ -567,7 +547,7 @@ void tst_CRkCoordFormat::acceptsAfterARefusal()
         okButton(dialog)->click();
     });
     QCOMPARE(result, 1);
-    QCOMPARE(texts(answerer.boxes), QStringList(missing));
+    QCOMPARE(answerer.texts(), QStringList(missing));
 }
 
 void tst_CRkCoordFormat::otherEnds()
@@ -579,7 +559,7 @@ void tst_CRkCoordFormat::otherEnds()
     };
     QCOMPARE(press("m_pBtnCancel"), 0);
     QCOMPARE(press("m_pBtnClose"), -1);
-    QCOMPARE(texts(answerer.boxes), QStringList());
+    QCOMPARE(answerer.texts(), QStringList());
 }
 
 QTEST_MAIN(tst_CRkCoordFormat)

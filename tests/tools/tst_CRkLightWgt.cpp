@@ -7,6 +7,7 @@
 
 #include "support/Brackets.h"
 #include "support/WindowWaits.h"
+#include "widgets/KeyboardFocus.h"
 #include "widgets/Render.h"
 #include "widgets/SendMouse.h"
 
@@ -217,6 +218,7 @@ private slots:
     void colorDialogOpensWithTheColor();
     void everyColorIsSentAtOnce();
     void invalidColorOpensBlack();
+    void translucentColorOpensOpaque();
     void colorDialogCanBeRead();
     void colorDialogIsHiddenWithTheDialog();
     void colorDialogGoesWithTheDialog();
@@ -406,22 +408,13 @@ void tst_CRkLightWgt::accessibleNames()
 void tst_CRkLightWgt::tabOrder()
 {
     CRkLightWgt dialog(nullptr);
-    dialog.show();
-    QApplication::setActiveWindow(&dialog);
-    QTRY_VERIFY(dialog.isActiveWindow());
     const QStringList expected = {"doubleSpinBox_Azimuth",     "doubleSpinBox_Elevation",
                                   "horizontalSlider_ambient",  "horizontalSlider_diffuse",
                                   "horizontalSlider_specular", "btn_color_light",
                                   "btn_color_specular",        "horizontalSlider_shininess",
                                   "horizontalSlider_blend",    "m_pBtnClose",
                                   "doubleSpinBox_Azimuth"};
-    QStringList order;
-    while (order.size() < expected.size()) {
-        const QWidget* focused = QApplication::focusWidget();
-        order.append(focused ? focused->objectName() : QString());
-        QTest::keyClick(&dialog, Qt::Key_Tab);
-    }
-    QCOMPARE(order, expected);
+    QCOMPARE(tabStops(dialog, expected.size()), expected);
 }
 
 void tst_CRkLightWgt::enterKeepsTheDialogOpen()
@@ -1075,6 +1068,17 @@ void tst_CRkLightWgt::invalidColorOpensBlack()
     swatch(dialog, "specular")->click();
     QCOMPARE(dialog.findChild<QColorDialog*>()->currentColor(), QColor(Qt::black));
     QVERIFY(!currentRecord(dialog)[6].value<QColor>().isValid());
+}
+
+void tst_CRkLightWgt::translucentColorOpensOpaque()
+{
+    CRkLightWgt dialog(nullptr);
+    dialog.InitWgt(withElement(7, QColor(255, 200, 0, 100)), "light");
+    Recorder sent(dialog);
+    swatch(dialog, "specular")->click();
+    QCOMPARE(sent.order, QStringList("para"));
+    QCOMPARE(sent.records[0].toList()[7].value<QColor>(), QColor(255, 200, 0));
+    QCOMPARE(swatch(dialog, "specular")->styleSheet(), styleOf(QColor(255, 200, 0)));
 }
 
 /// The background attribute alone would leave its texts on nothing.

@@ -8,6 +8,7 @@
 #include "support/WindowWaits.h"
 #include "widgets/AtScale.h"
 #include "widgets/ExecAnd.h"
+#include "widgets/KeyboardFocus.h"
 #include "widgets/Render.h"
 
 #include <QAccessible>
@@ -49,14 +50,6 @@ void fill(const QWidget& dialog, const QString& p, const QString& g, const QStri
     edit(dialog, "P")->setText(p);
     edit(dialog, "G")->setText(g);
     edit(dialog, "L")->setText(l);
-}
-
-QStringList texts(const QList<ShownBox>& boxes)
-{
-    QStringList texts;
-    for (const ShownBox& box : boxes)
-        texts.append(box.text);
-    return texts;
 }
 
 } // namespace
@@ -196,7 +189,7 @@ void tst_CRkVerHighCalculator::textsAreOfTheClassContext()
 
     const BoxAnswerer answerer;
     okButton(dialog)->click();
-    QCOMPARE(texts(answerer.boxes), QStringList({'[' + incomplete + ']', '[' + invalid + ']'}));
+    QCOMPARE(answerer.texts(), QStringList({'[' + incomplete + ']', '[' + invalid + ']'}));
     QCOMPARE(answerer.boxes.at(0).title, '[' + title + ']');
     QCOMPARE(answerer.boxes.at(1).title, '[' + title + ']');
 }
@@ -285,29 +278,16 @@ void tst_CRkVerHighCalculator::pictureIsSharpAtEveryScale()
 void tst_CRkVerHighCalculator::tabOrder()
 {
     CRkVerHighCalculator dialog(nullptr);
-    dialog.show();
-    QApplication::setActiveWindow(&dialog);
-    QTRY_VERIFY(dialog.isActiveWindow());
-    QVERIFY(okButton(dialog)->isDefault());
     const QStringList expected = {"m_pEdtL_Value2", "m_pBtnOK",       "m_pBtnCancel",
                                   "m_pBtnClose",    "m_pEdtP_Value2", "m_pEdtG_Value2",
                                   "m_pEdtL_Value2"};
-    QStringList order;
-    while (order.size() < expected.size()) {
-        const QWidget* focused = QApplication::focusWidget();
-        order.append(focused ? focused->objectName() : QString());
-        QTest::keyClick(&dialog, Qt::Key_Tab);
-    }
-    QCOMPARE(order, expected);
+    QCOMPARE(tabStops(dialog, expected.size()), expected);
+    QVERIFY(okButton(dialog)->isDefault());
 }
 
 void tst_CRkVerHighCalculator::embeddedDialogTakesNoFocus()
 {
-    QWidget parent;
-    auto* other = new QLineEdit(&parent);
-    other->setFocus();
-    const CRkVerHighCalculator dialog(&parent);
-    QCOMPARE(parent.focusWidget(), other);
+    QVERIFY(leavesFocusWhenEmbedded<CRkVerHighCalculator>());
 }
 
 void tst_CRkVerHighCalculator::accessibleNames()
@@ -383,7 +363,7 @@ void tst_CRkVerHighCalculator::height()
     fill(dialog, p, g, l);
     const double height = dialog.GetVerticalHeight();
     QVERIFY2(height == expected, qPrintable(QString::number(height, 'g', 17)));
-    QCOMPARE(texts(answerer.boxes), QStringList());
+    QCOMPARE(answerer.texts(), QStringList());
 }
 
 void tst_CRkVerHighCalculator::heightOfAnEmptyField_data()
@@ -414,7 +394,7 @@ void tst_CRkVerHighCalculator::heightOfAnEmptyField()
     CRkVerHighCalculator dialog(nullptr);
     fill(dialog, p, g, l);
     QCOMPARE(dialog.GetVerticalHeight(), -9999.0);
-    QCOMPARE(texts(answerer.boxes), QStringList(incomplete));
+    QCOMPARE(answerer.texts(), QStringList(incomplete));
 }
 
 void tst_CRkVerHighCalculator::boxLook()
@@ -458,7 +438,7 @@ void tst_CRkVerHighCalculator::accepts()
         QCOMPARE(dialog.result(), int(QDialog::Accepted));
         QVERIFY(dialog.GetVerticalHeight() == expected);
     }
-    QCOMPARE(texts(answerer.boxes), QStringList());
+    QCOMPARE(answerer.texts(), QStringList());
 }
 
 void tst_CRkVerHighCalculator::refuses_data()
@@ -505,7 +485,7 @@ void tst_CRkVerHighCalculator::refuses()
     });
     QVERIFY(staysOpen);
     QCOMPARE(result, 0);
-    QCOMPARE(texts(answerer.boxes), messages);
+    QCOMPARE(answerer.texts(), messages);
     QCOMPARE(edit(dialog, "P")->text(), p);
     QCOMPARE(edit(dialog, "G")->text(), g);
     QCOMPARE(edit(dialog, "L")->text(), l);
@@ -533,7 +513,7 @@ void tst_CRkVerHighCalculator::otherEnds()
     };
     QCOMPARE(press("m_pBtnCancel"), 0);
     QCOMPARE(press("m_pBtnClose"), -1);
-    QCOMPARE(texts(answerer.boxes), QStringList());
+    QCOMPARE(answerer.texts(), QStringList());
 }
 
 QTEST_MAIN(tst_CRkVerHighCalculator)

@@ -6,6 +6,7 @@
 #include "support/Brackets.h"
 #include "support/WindowWaits.h"
 #include "widgets/ExecAnd.h"
+#include "widgets/KeyboardFocus.h"
 
 #include <QAccessible>
 #include <QApplication>
@@ -264,28 +265,15 @@ void tst_CRkParameterEditPage::tabOrder()
     QFETCH(QStringList, fields);
     CRkParameterEditPage page;
     page.SetGroupHidden(hidden & 1, hidden & 2, hidden & 4, hidden & 8);
-    page.show();
-    QApplication::setActiveWindow(&page);
-    QTRY_VERIFY(page.isActiveWindow());
-    QVERIFY(part<QPushButton>(page, "m_pBtnOK")->isDefault());
     const QStringList expected =
         fields + QStringList({"m_pBtnOK", "m_pBtnCancel", "m_pBtnClose", fields.first()});
-    QStringList order;
-    while (order.size() < expected.size()) {
-        const QWidget* focused = QApplication::focusWidget();
-        order.append(focused ? focused->objectName() : QString());
-        QTest::keyClick(&page, Qt::Key_Tab);
-    }
-    QCOMPARE(order, expected);
+    QCOMPARE(tabStops(page, expected.size()), expected);
+    QVERIFY(part<QPushButton>(page, "m_pBtnOK")->isDefault());
 }
 
 void tst_CRkParameterEditPage::embeddedPageTakesNoFocus()
 {
-    QWidget parent;
-    auto* other = new QLineEdit(&parent);
-    other->setFocus();
-    const CRkParameterEditPage page(&parent);
-    QCOMPARE(parent.focusWidget(), other);
+    QVERIFY(leavesFocusWhenEmbedded<CRkParameterEditPage>());
 }
 
 void tst_CRkParameterEditPage::accessibleNames()
