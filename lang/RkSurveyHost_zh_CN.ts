@@ -370,6 +370,14 @@
         <translation>光照下的三维地形 (%1)</translation>
     </message>
     <message>
+        <source>System</source>
+        <translation>系统信息</translation>
+    </message>
+    <message>
+        <source>Processor, disks, display, memory and operating system of this computer (%1)</source>
+        <translation>本机的处理器、硬盘、显卡、内存和操作系统 (%1)</translation>
+    </message>
+    <message>
         <source>Survey tools</source>
         <translation>测量工具</translation>
     </message>

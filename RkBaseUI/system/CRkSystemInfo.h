@@ -29,9 +29,10 @@ public:
     /// on the SCSI bus, elsewhere of block devices.
     void GetDiskInfo(unsigned long& count, QStringList& names);
 
-    /// Appends the names of the display adapters to `names`. `count` is the length of `names`, or
-    /// the number of CUDA devices where there are any; then `memory` is the memory of the last one
-    /// that tells it, for example "4096MB". Otherwise `memory` stays as it is.
+    /// Appends the names of the display adapters to `names`, leaving out those that cannot be read.
+    /// `count` is the length of `names`, or the number of CUDA devices where there are any; then
+    /// `memory` is the memory of the last one that tells it, for example "4096MB". Otherwise
+    /// `memory` stays as it is.
     void GetDisplayCardInfo(unsigned long& count, QStringList& names, QString& memory);
 
     /// The physical memory of the machine and the size of the process's address space, both in MiB

@@ -150,10 +150,8 @@ QStringList displayAdapters(const SystemTree& tree)
             continue;
         const qint64 vendor = SystemText::hexNumber(tree.read(device + "/vendor"));
         const qint64 id = SystemText::hexNumber(tree.read(device + "/device"));
-        if (vendor < 0 || vendor > 0xffff || id < 0 || id > 0xffff) {
-            names.append(QString());
+        if (vendor < 0 || vendor > 0xffff || id < 0 || id > 0xffff)
             continue;
-        }
         if (database.isEmpty())
             database = pciDatabase(tree);
         names.append(

@@ -19,7 +19,7 @@ Processor processor(const SystemTree& tree);
 /// behind it; the names are vendor and model, or else what the kernel calls the disk.
 Disks disks(const SystemTree& tree);
 
-/// The names of the PCI devices of class 03 in the order of their addresses; empty for one whose
+/// The names of the PCI devices of class 03 in the order of their addresses, without those whose
 /// ids cannot be read.
 QStringList displayAdapters(const SystemTree& tree);
 

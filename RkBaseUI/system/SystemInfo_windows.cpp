@@ -33,10 +33,13 @@ QStringList displayAdapters()
     device.cbSize = sizeof device;
     for (DWORD index = 0; ::SetupDiEnumDeviceInfo(devices, index, &device); ++index) {
         char description[descriptionSize] = {};
-        ::SetupDiGetDeviceRegistryPropertyA(devices, &device, SPDRP_DEVICEDESC, nullptr,
-                                            reinterpret_cast<BYTE*>(description),
-                                            descriptionSize - 1, nullptr);
-        names.append(QString::fromLocal8Bit(description));
+        const BOOL isRead = ::SetupDiGetDeviceRegistryPropertyA(
+            devices, &device, SPDRP_DEVICEDESC, nullptr, reinterpret_cast<BYTE*>(description),
+            descriptionSize, nullptr);
+        if (!isRead)
+            continue;
+        const uint length = qstrnlen(description, descriptionSize); // It may fill the buffer.
+        names.append(QString::fromLocal8Bit(description, static_cast<int>(length)));
     }
     return names;
 }

@@ -3,6 +3,7 @@
 
 #include "app/GalleryParts.h"
 #include "app/GalleryWindows.h"
+#include "app/HostWindow.h"
 #include "app/SystemPage.h"
 
 #include <QCoreApplication>
@@ -44,12 +45,29 @@ Window bareSystemPage()
     return std::make_unique<SystemPage>(nullptr, [] { return SystemValues(); });
 }
 
-void waitForValues(QWidget& window)
+/// As when the user asks for the page.
+Window hostWindow()
 {
-    const auto& page = static_cast<SystemPage&>(window);
+    auto window = std::make_unique<HostWindow>(nullptr, fieldOffice);
+    window->showPage(HostWindow::Page::System);
+    return window;
+}
+
+void waitForPage(const SystemPage& page)
+{
     const QDeadlineTimer deadline(5000);
     while (!page.isGathered() && !deadline.hasExpired())
         QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
+}
+
+void waitForValues(QWidget& window)
+{
+    waitForPage(static_cast<SystemPage&>(window));
+}
+
+void waitForHost(QWidget& window)
+{
+    waitForPage(*static_cast<HostWindow&>(window).systemPage());
 }
 
 void copyValues(QWidget& window)
@@ -66,5 +84,6 @@ QVector<Gallery::Entry> gallerySystem()
         {QStringLiteral("system"), systemPage, waitForValues},
         {QStringLiteral("system-copied"), systemPage, copyValues},
         {QStringLiteral("system-not-found"), bareSystemPage, waitForValues},
+        {QStringLiteral("host-system"), hostWindow, waitForHost},
     };
 }

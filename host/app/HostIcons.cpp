@@ -115,6 +115,15 @@ QPainterPath cube()
     return path;
 }
 
+/// A screen on its foot.
+QPainterPath computer()
+{
+    QPainterPath path;
+    path.addRoundedRect(QRectF(2.8, 3.8, 14.4, 9.6), 1.4, 1.4);
+    path.addPath(lines({{10, 13.4, 10, 16.4}, {6.6, 16.4, 13.4, 16.4}}));
+    return path;
+}
+
 /// Dividers.
 QPainterPath dividers()
 {
@@ -241,6 +250,8 @@ QPainterPath drawing(Shape shape)
         return mountains();
     case Shape::Scene:
         return cube();
+    case Shape::Computer:
+        return computer();
     case Shape::Tools:
         return dividers();
     case Shape::Earthwork:

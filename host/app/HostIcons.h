@@ -22,6 +22,7 @@ enum class Shape {
     Map,
     Terrain,
     Scene,
+    Computer,
     Tools,
     Earthwork,
     Light,

@@ -11,6 +11,7 @@
 #include "app/ProjectContent.h"
 #include "app/ProjectUploads.h"
 #include "app/SurveyTools.h"
+#include "app/SystemPage.h"
 #include "app/TerrainPanel.h"
 #include "app/UserBox.h"
 #include "terrain/SampleTerrain.h"
@@ -103,12 +104,12 @@ void prepare(QWidget& button)
 
 } // namespace
 
-HostWindow::HostWindow(QWidget* parent)
+HostWindow::HostWindow(QWidget* parent, const std::function<SystemValues()>& gather)
     : QMainWindow(parent)
 {
     setStyleSheet(QString::fromLatin1(windowStyle));
     setContextMenuPolicy(Qt::NoContextMenu);
-    makePages();
+    makePages(gather);
     makeToolBar();
     makeDock();
     makeStatusBar();
@@ -127,14 +128,15 @@ CRkProjectManagerDialog* HostWindow::projectsDialog() const
     return m_projects;
 }
 
-void HostWindow::makePages()
+void HostWindow::makePages(const std::function<SystemValues()>& gather)
 {
     const ElevationModel model = sampleTerrain();
     m_pages = new QStackedWidget(this);
     m_map = new MapPanel(m_pages);
     m_terrain = new TerrainPanel(model, m_pages);
     m_scene = new LightPanel(model, m_pages);
-    for (QWidget* page : std::initializer_list<QWidget*>{m_map, m_terrain, m_scene})
+    m_system = new SystemPage(m_pages, gather);
+    for (QWidget* page : std::initializer_list<QWidget*>{m_map, m_terrain, m_scene, m_system})
         m_pages->addWidget(page);
     setCentralWidget(m_pages);
     m_surveyTools = new SurveyTools(m_map, m_terrain, m_scene, this);
@@ -177,8 +179,10 @@ void HostWindow::makePageButtons()
 {
     using HostIcons::Shape;
     m_pageActions = new QActionGroup(this);
-    const QVector<QPair<Shape, Qt::Key>> pages = {
-        {Shape::Map, Qt::Key_1}, {Shape::Terrain, Qt::Key_2}, {Shape::Scene, Qt::Key_3}};
+    const QVector<QPair<Shape, Qt::Key>> pages = {{Shape::Map, Qt::Key_1},
+                                                  {Shape::Terrain, Qt::Key_2},
+                                                  {Shape::Scene, Qt::Key_3},
+                                                  {Shape::Computer, Qt::Key_4}};
     for (const auto& [shape, key] : pages) {
         QAction* action = m_pageActions->addAction(HostIcons::icon(shape, lightInk), QString());
         action->setCheckable(true);
@@ -329,7 +333,9 @@ void HostWindow::retranslatePages()
     const QVector<Texts> pages = {
         {tr("Map"), tr("The map with the blocks of the project (%1)")},
         {tr("Terrain"), tr("The terrain from above, for measuring earthwork (%1)")},
-        {tr("3-D view"), tr("The terrain in three dimensions, under a light (%1)")}};
+        {tr("3-D view"), tr("The terrain in three dimensions, under a light (%1)")},
+        {tr("System"),
+         tr("Processor, disks, display, memory and operating system of this computer (%1)")}};
     for (int i = 0; i < pages.size(); ++i) {
         QAction* action = m_pageActions->actions().at(i);
         action->setText(pages[i].name);

@@ -3,11 +3,15 @@
 
 #pragma once
 
+#include "app/SystemValues.h"
+
 #include <RkBaseUI/CRkOpenedProjectInfo.h>
 
 #include <QList>
 #include <QMainWindow>
 #include <QPointer>
+
+#include <functional>
 
 class BlockPanel;
 class CRkProjectManagerDialog;
@@ -21,11 +25,13 @@ class QStackedWidget;
 class QToolBar;
 class QToolButton;
 class SurveyTools;
+class SystemPage;
 class TerrainPanel;
 class UserBox;
 
-/// The main window of the survey application: a tool bar, and one of three pages: the map and
-/// beside it what is opened, a terrain from above, and the same terrain in three dimensions.
+/// The main window of the survey application: a tool bar, and one of four pages: the map and
+/// beside it what is opened, a terrain from above, the same terrain in three dimensions, and what
+/// this computer is.
 /// Projects and blocks are chosen in the dialog of projects. The survey tools work on the pages;
 /// what they compute appears in the status bar.
 ///
@@ -38,9 +44,11 @@ class HostWindow : public QMainWindow
     Q_OBJECT
 
 public:
-    enum class Page { Map, Terrain, Scene };
+    enum class Page { Map, Terrain, Scene, System };
 
-    explicit HostWindow(QWidget* parent = nullptr);
+    /// `gather` tells what this computer is, on a thread of its own.
+    explicit HostWindow(QWidget* parent = nullptr,
+                        const std::function<SystemValues()>& gather = gatherSystemValues);
     ~HostWindow() override;
 
     /// The dialog of projects; null while it is not open.
@@ -48,6 +56,7 @@ public:
     MapPanel* map() const { return m_map; }
     TerrainPanel* terrain() const { return m_terrain; }
     LightPanel* scene() const { return m_scene; }
+    SystemPage* systemPage() const { return m_system; }
     BlockPanel* blockPanel() const { return m_block; }
     SurveyTools* tools() const { return m_surveyTools; }
 
@@ -68,7 +77,7 @@ protected:
     void changeEvent(QEvent* event) override;
 
 private:
-    void makePages();
+    void makePages(const std::function<SystemValues()>& gather);
     void makeToolBar();
     void makeProjectsButton();
     void makePageButtons();
@@ -100,6 +109,7 @@ private:
     MapPanel* m_map = nullptr;
     TerrainPanel* m_terrain = nullptr;
     LightPanel* m_scene = nullptr;
+    SystemPage* m_system = nullptr;
     SurveyTools* m_surveyTools = nullptr;
     QDockWidget* m_dock = nullptr;
     BlockPanel* m_block = nullptr;

@@ -22,6 +22,7 @@ namespace {
 
 constexpr int margin = 24;
 constexpr QSize pageSize(600, 760);
+constexpr int columnWidth = 720; // Of what is read; lines across a whole screen are not.
 
 /// In the order on the page, with the number of their rows.
 enum SectionId { ProcessorSection, StorageSection, DisplaySection, MemorySection, SystemSection };
@@ -92,10 +93,16 @@ SystemPage::SystemPage(QWidget* parent, const Gather& gather)
     scroll->setWidgetResizable(true);
     scroll->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
     scroll->setFocusPolicy(Qt::NoFocus);
+    scroll->setAlignment(Qt::AlignHCenter);
+    setFocusProxy(scroll); // Its keys scroll the page.
     auto* layout = new QVBoxLayout(this);
     layout->setContentsMargins(0, 0, 0, 0);
     layout->setSpacing(0);
-    layout->addWidget(makeHead());
+    auto* headRow = new QHBoxLayout;
+    headRow->addStretch();
+    headRow->addWidget(makeHead(), 1);
+    headRow->addStretch();
+    layout->addLayout(headRow);
     layout->addWidget(makeLine(this));
     layout->addWidget(scroll, 1);
     scroll->setWidget(makeBody());
@@ -112,6 +119,7 @@ SystemPage::~SystemPage()
 QWidget* SystemPage::makeHead()
 {
     auto* head = new QWidget(this);
+    head->setMaximumWidth(columnWidth);
     m_title = makeLabel("name", head);
     m_note = makeLabel("note", head);
     m_note->setWordWrap(true);
@@ -133,6 +141,7 @@ QWidget* SystemPage::makeHead()
 QWidget* SystemPage::makeBody()
 {
     auto* body = new QWidget(this);
+    body->setMaximumWidth(columnWidth);
     auto* layout = new QVBoxLayout(body);
     layout->setContentsMargins(margin, margin - 6, margin, margin);
     layout->setSpacing(10);

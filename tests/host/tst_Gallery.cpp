@@ -286,7 +286,8 @@ void tst_Gallery::programShowsEveryWindow()
                              "upload-no-login",
                              "system",
                              "system-copied",
-                             "system-not-found"})
+                             "system-not-found",
+                             "host-system"})
         QVERIFY2(run.files.contains(file(QLatin1String(name), language, scale)), name);
     QSet<QByteArray> contents;
     for (const QString& path : run.files) {

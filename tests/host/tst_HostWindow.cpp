@@ -7,6 +7,7 @@
 #include "app/LightPanel.h"
 #include "app/MapPanel.h"
 #include "app/SurveyTools.h"
+#include "app/SystemPage.h"
 #include "app/TerrainPanel.h"
 #include "app/UserBox.h"
 #include "map/MapProjection.h"
@@ -45,6 +46,7 @@
 #include <QWindow>
 
 #include <algorithm>
+#include <atomic>
 #include <cmath>
 #include <functional>
 #include <memory>
@@ -154,6 +156,8 @@ private slots:
     void blockOfAProjectThatIsGoneIsShown();
     void pagesAreReached_data();
     void pagesAreReached();
+    void systemIsAskedWhenItsPageIsShown();
+    void systemPageIsInTheLanguageOfTheWindow();
     void blockIsShownOnTheMap();
     void toolsOpenOnTheirPages();
     void toolsStandBesideTheirViews();
@@ -526,6 +530,7 @@ void tst_HostWindow::pagesAreReached_data()
     QTest::newRow("map") << 0 << HostWindow::Page::Map;
     QTest::newRow("terrain") << 1 << HostWindow::Page::Terrain;
     QTest::newRow("3-D view") << 2 << HostWindow::Page::Scene;
+    QTest::newRow("system") << 3 << HostWindow::Page::System;
 }
 
 /// By its button, and with the focus for the keys.
@@ -533,7 +538,8 @@ void tst_HostWindow::pagesAreReached()
 {
     QFETCH(int, button);
     QFETCH(HostWindow::Page, page);
-    const QVector<QWidget*> pages = {m_window->map(), m_window->terrain(), m_window->scene()};
+    const QVector<QWidget*> pages = {m_window->map(), m_window->terrain(), m_window->scene(),
+                                     m_window->systemPage()};
     QCOMPARE(m_window->page(), HostWindow::Page::Map);
     m_window->showPage(page == HostWindow::Page::Map ? HostWindow::Page::Scene
                                                      : HostWindow::Page::Map);
@@ -543,7 +549,7 @@ void tst_HostWindow::pagesAreReached()
     actions.erase(std::remove_if(actions.begin(), actions.end(),
                                  [](const QAction* action) { return !action->isCheckable(); }),
                   actions.end());
-    QCOMPARE(actions.size(), 3);
+    QCOMPARE(actions.size(), pages.size());
     QTest::mouseClick(bar->widgetForAction(actions[button]), Qt::LeftButton);
     QCOMPARE(m_window->page(), page);
     for (int i = 0; i < pages.size(); ++i) {
@@ -554,6 +560,43 @@ void tst_HostWindow::pagesAreReached()
     }
     QVERIFY(pages[button]->hasFocus());
     QCOMPARE(m_window->blockPanel()->isVisible(), button == 0);
+}
+
+/// And not when the application starts.
+void tst_HostWindow::systemIsAskedWhenItsPageIsShown()
+{
+    std::atomic<int> calls(0);
+    HostWindow window(nullptr, [&calls] {
+        ++calls;
+        SystemValues values;
+        values.processorName = QStringLiteral("A processor");
+        return values;
+    });
+    window.show();
+    QVERIFY(comesOnScreen(&window));
+    for (const auto page : {HostWindow::Page::Terrain, HostWindow::Page::Map})
+        window.showPage(page);
+    QCOMPARE(int(calls), 0);
+    window.showPage(HostWindow::Page::System);
+    QTRY_VERIFY(window.systemPage()->plainText().contains(QStringLiteral("Name: A processor\n")));
+    QCOMPARE(int(calls), 1);
+}
+
+void tst_HostWindow::systemPageIsInTheLanguageOfTheWindow()
+{
+    auto* bar = m_window->findChild<QToolBar*>();
+    const auto isInBar = [bar](const QString& text) {
+        const QList<QAction*> actions = bar->actions();
+        return std::any_of(actions.begin(), actions.end(),
+                           [&](const QAction* action) { return action->text() == text; });
+    };
+    QVERIFY(isInBar(QStringLiteral("System")));
+    m_window->showPage(HostWindow::Page::System);
+    QTRY_VERIFY(m_window->systemPage()->isGathered());
+    QVERIFY(m_window->systemPage()->plainText().startsWith(QLatin1String("System\n")));
+    HostSettings::installLanguage(QStringLiteral("zh_CN"));
+    QTRY_VERIFY(isInBar(QString::fromUtf8("系统信息")));
+    QTRY_VERIFY(m_window->systemPage()->plainText().startsWith(QString::fromUtf8("系统信息\n")));
 }
 
 void tst_HostWindow::blockIsShownOnTheMap()
@@ -657,6 +700,8 @@ void tst_HostWindow::shortcutsReachEverything()
     QCOMPARE(m_window->page(), HostWindow::Page::Terrain);
     QTest::keyClick(m_window.get(), Qt::Key_3, Qt::ControlModifier);
     QCOMPARE(m_window->page(), HostWindow::Page::Scene);
+    QTest::keyClick(m_window.get(), Qt::Key_4, Qt::ControlModifier);
+    QCOMPARE(m_window->page(), HostWindow::Page::System);
     QTest::keyClick(m_window.get(), Qt::Key_1, Qt::ControlModifier);
     QCOMPARE(m_window->page(), HostWindow::Page::Map);
     QTest::keyClick(m_window.get(), Qt::Key_E, Qt::ControlModifier);

@@ -11,6 +11,8 @@
 #include <QClipboard>
 #include <QLabel>
 #include <QPushButton>
+#include <QScrollArea>
+#include <QScrollBar>
 #include <QSemaphore>
 #include <QTest>
 #include <QThread>
@@ -93,6 +95,8 @@ private slots:
     void valuesCanBeSelected();
     void titlesStandInOneColumn();
     void narrowPageWrapsValues();
+    void widePageKeepsItsColumn();
+    void keysScroll();
     void languageChanges();
 };
 
@@ -347,6 +351,39 @@ void tst_SystemPage::narrowPageWrapsValues()
     const QLabel* name = valueOf(page, QStringLiteral("Name"));
     QTRY_VERIFY(name->height() > 3 * name->fontMetrics().height());
     QVERIFY(name->mapTo(&page, QPoint(name->width(), 0)).x() <= page.width());
+}
+
+/// In the middle, with the button at its end.
+void tst_SystemPage::widePageKeepsItsColumn()
+{
+    SystemPage page(nullptr, workstation);
+    page.resize(1600, 800);
+    page.show();
+    QTRY_VERIFY(page.isGathered());
+    QCoreApplication::processEvents();
+    const auto left = [&page](const QWidget* widget) { return widget->mapTo(&page, {}).x(); };
+    const QLabel* name = valueOf(page, QStringLiteral("Name"));
+    const QPushButton* copy = copyButton(page);
+    const int margin = left(copy->parentWidget()->findChild<QLabel*>());
+    QVERIFY2(margin > 400, qPrintable(QString::number(margin)));
+    QCOMPARE(page.width() - left(copy) - copy->width(), margin);
+    QCOMPARE(left(name) + name->width(), left(copy) + copy->width());
+}
+
+void tst_SystemPage::keysScroll()
+{
+    SystemPage page(nullptr, workstation);
+    page.resize(600, 300);
+    page.show();
+    QApplication::setActiveWindow(&page);
+    QTRY_VERIFY(page.isGathered());
+    page.setFocus();
+    const auto* bar = page.findChild<QScrollArea*>()->verticalScrollBar();
+    QTRY_VERIFY(bar->maximum() > 0);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageDown);
+    QVERIFY(bar->value() > 0);
+    QTest::keyClick(QApplication::focusWidget(), Qt::Key_PageUp);
+    QCOMPARE(bar->value(), 0);
 }
 
 void tst_SystemPage::languageChanges()

@@ -338,8 +338,7 @@ void tst_LinuxProbes::unreadableAdapters()
     QVERIFY(addAdapter(machine, "0000:00:05.0", "0x030000\n", "0x110de\n", "0x0001\n"));
     QVERIFY(addAdapter(machine, "0000:00:06.0", "0x030000\n", "0x10de\n", "0x10001\n"));
     QVERIFY(addAdapter(machine, "0000:00:07.0", "0x030000\n", "0x10de\n", "0x0001\n"));
-    QCOMPARE(adapters(machine),
-             (QStringList{QString(), QString(), QString(), QStringLiteral("Device 10de:0001")}));
+    QCOMPARE(adapters(machine), QStringList{QStringLiteral("Device 10de:0001")});
 }
 
 void tst_LinuxProbes::totalMemory_data()
