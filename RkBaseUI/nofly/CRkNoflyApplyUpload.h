@@ -30,8 +30,8 @@ public:
     ~CRkNoflyApplyUpload() override;
 
     /// Sends the JSON of an application to the service at GetServerIP() with the token of the
-    /// current user. Returns at once. While a request is under way the data are kept for a retry
-    /// only.
+    /// current user. Returns at once. While a request is under way, and after the service did not
+    /// accept the user, the data are kept for a retry only.
     void BeginUpload(const QByteArray& document);
 
     /// Shows how a transfer ended that the host made itself: Cancel becomes OK, or Retry appears

@@ -43,7 +43,7 @@ QImage mapPicture()
     block.isOpened = true;
     map.setBlocks({block});
     map.setView(map.view().showing(MapBlocks({block}).openedExtent(), 160));
-    return map.grab().toImage();
+    return map.picture();
 }
 
 void setTimes(QWidget& form, const QString& start, const QString& end)

@@ -220,6 +220,14 @@ QString MapPanel::coordinates() const
     return coordinateText(degrees.x(), degrees.y());
 }
 
+QImage MapPanel::picture()
+{
+    QPixmap picture(size() * devicePixelRatioF());
+    picture.setDevicePixelRatio(devicePixelRatioF());
+    render(&picture, QPoint(), QRegion(), QWidget::DrawWindowBackground);
+    return picture.toImage();
+}
+
 void MapPanel::paintEvent(QPaintEvent* event)
 {
     QPainter painter(this);

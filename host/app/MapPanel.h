@@ -7,6 +7,7 @@
 #include "app/MapCanvas.h"
 #include "map/MapView.h"
 
+#include <QImage>
 #include <QVariantAnimation>
 #include <QWidget>
 
@@ -43,6 +44,9 @@ public:
 
     /// What the corner says of the place under the cursor; empty when the cursor is elsewhere.
     QString coordinates() const;
+
+    /// What the map shows, in the pixels of the screen, without what lies on it to be pressed.
+    QImage picture();
 
     MapPlaces* places() const { return m_places; }
     OutlineTool* outline() const { return m_outline; }

@@ -13,19 +13,9 @@
 #include <RkBaseUI/WebService.h>
 
 #include <QGuiApplication>
-#include <QPixmap>
 #include <QPointer>
 
 namespace {
-
-/// Without what lies on the map to be pressed.
-QImage pictureOf(MapPanel& map)
-{
-    QPixmap picture(map.size() * map.devicePixelRatioF());
-    picture.setDevicePixelRatio(map.devicePixelRatioF());
-    map.render(&picture, QPoint(), QRegion(), QWidget::DrawWindowBackground);
-    return picture.toImage();
-}
 
 QByteArray documentOf(const QString& projectFile)
 {
@@ -81,7 +71,7 @@ void ProjectUploads::applyForLift()
     const QString blockId = m_panel->blockId();
     const QString name = m_panel->blockName();
     CRkNoflyApplyWgt form(blockId, {blockId}, nullptr);
-    form.SetScreenShotsImage(pictureOf(*m_map));
+    form.SetScreenShotsImage(m_map->picture());
     if (runOverWindow(form) != 1)
         return;
     CRkNoflyApplyUpload upload(nullptr);

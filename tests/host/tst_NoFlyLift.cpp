@@ -10,7 +10,6 @@
 #include <RkBaseUI/CRkNoflyApplyWgt.h>
 
 #include <QDateTimeEdit>
-#include <QElapsedTimer>
 #include <QLineEdit>
 
 namespace {
@@ -159,28 +158,22 @@ void tst_NoFlyLift::liftOutcomes()
     QFETCH(bool, isTaken);
     m_fixture.openBlock();
     m_fixture.startService(fault);
-    SetUploadTimeout(standstillLimit);
-    QElapsedTimer timer;
-    qint64 elapsed = 0;
-    const DialogSteps steps({[&](QDialog& form) {
-                                 sendForm(form, m_document);
-                                 timer.start();
-                             },
-                             [&](QDialog& upload) {
+    if (fault == "stall") // The others are to end by themselves, however slow the machine is.
+        SetUploadTimeout(standstillLimit);
+    const DialogSteps steps({[this](QDialog& form) { sendForm(form, m_document); },
+                             [isTaken](QDialog& upload) {
                                  const auto hasEnded = [&upload] {
                                      return !upload.isVisible()
                                          || button(upload, "m_pBtnRetry").isVisible()
                                          || labelText(upload, "m_pPromptLabel") == "No Login!";
                                  };
                                  QTRY_VERIFY(hasEnded());
-                                 elapsed = timer.elapsed();
                                  QCOMPARE(!upload.isVisible(), isTaken);
                                  if (!isTaken)
                                      click(upload, "m_pBtnCancel");
                              }});
     click(*m_fixture.window, "applyForLift");
     QCOMPARE(steps.left(), 0);
-    QVERIFY2(elapsed <= standstillLimit + 200, qPrintable(QString::number(elapsed)));
     QCOMPARE(m_fixture.result(),
              (isTaken ? QString("No-fly lift: the application for %1 has been submitted.")
                       : QString("No-fly lift: the service has not confirmed the application for "

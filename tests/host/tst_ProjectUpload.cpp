@@ -11,7 +11,6 @@
 #include <RkBaseUI/WebService.h>
 
 #include <QAbstractItemView>
-#include <QElapsedTimer>
 #include <QProgressBar>
 #include <QTreeView>
 
@@ -221,16 +220,13 @@ void tst_ProjectUpload::uploadOutcomes()
     QFETCH(int, state);
     m_fixture.openBlock();
     m_fixture.startService(fault);
-    SetUploadTimeout(standstillLimit);
-    qint64 elapsed = 0;
-    const DialogSteps steps({[&](QDialog& dialog) {
-        QElapsedTimer timer;
-        timer.start();
+    if (fault == "stall") // The others are to end by themselves, however slow the machine is.
+        SetUploadTimeout(standstillLimit);
+    const DialogSteps steps({[state](QDialog& dialog) {
         click(dialog, "m_pBtnOK");
         QCOMPARE(uploadOf(dialog).state(), State::Running);
         QVERIFY(!button(dialog, "m_pBtnOK").isEnabled());
         QTRY_VERIFY(uploadOf(dialog).state() != State::Running);
-        elapsed = timer.elapsed();
         QCOMPARE(int(uploadOf(dialog).state()), state);
         const bool isDone = state == int(State::Done);
         QVERIFY(labelText(dialog, "status").contains(isDone ? "has been uploaded" : "failed"));
@@ -240,7 +236,6 @@ void tst_ProjectUpload::uploadOutcomes()
     }});
     click(*m_fixture.window, "uploadProject");
     QCOMPARE(steps.left(), 0);
-    QVERIFY2(elapsed <= standstillLimit + 200, qPrintable(QString::number(elapsed)));
     QVERIFY(
         m_fixture.result().endsWith(state == int(State::Done) ? "has been uploaded." : "failed."));
 }

@@ -1,42 +1,20 @@
 // SPDX-FileCopyrightText: 2026 The RkBaseUI developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
-#include "service/WebServiceServer.h"
 #include "ServiceRequests.h"
+#include "support/LocalService.h"
+#include "support/MessageLog.h"
 #include "support/ProcessCounts.h"
 #include "support/TestSupport.h"
 
 #include <RkProjectDbOperator/CRkUpLoadObject.h>
 #include <RkProjectDbOperator/ReferenceSettings.h>
 
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QThread>
 #include <QtTest>
 
-#ifdef Q_OS_UNIX
-#include <csignal>
-#else
-#include <windows.h>
-#endif
-
 namespace {
-
-bool suspend(const QProcess& program)
-{
-#ifdef Q_OS_UNIX
-    return ::kill(pid_t(program.processId()), SIGSTOP) == 0;
-#else
-    return DebugActiveProcess(DWORD(program.processId())) != 0;
-#endif
-}
-
-QStringList messages;
-
-void collectMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text)
-{
-    messages.append(text);
-}
 
 /// An upload object on a thread of its own, and its outcomes as the GUI thread sees them.
 class Upload : public QObject
@@ -120,43 +98,22 @@ private slots:
     void fiftyRetriesLeaveNothing();
 
 private:
-    ServiceOptions options(const QString& fault = QString()) const;
-    QByteArray startProgram(QProcess& program, const QStringList& arguments = {}) const;
-
     std::unique_ptr<QTemporaryDir> m_dir;
     QString m_store;
-    QtMessageHandler m_previousHandler = nullptr;
+    MessageLog m_log;
 };
 
 void tst_ServiceUploads::init()
 {
     m_dir = std::make_unique<QTemporaryDir>();
     m_store = m_dir->filePath("service.db");
-    messages.clear();
-    m_previousHandler = qInstallMessageHandler(collectMessage);
+    m_log.start();
 }
 
 void tst_ServiceUploads::cleanup()
 {
-    qInstallMessageHandler(m_previousHandler);
     SetUploadTimeout(60000);
-    QCOMPARE(messages, QStringList());
-}
-
-ServiceOptions tst_ServiceUploads::options(const QString& fault) const
-{
-    ServiceOptions options;
-    options.storeFile = m_store;
-    options.token = "secret";
-    options.fault = parseServiceFault(fault).value_or(ServiceFault());
-    return options;
-}
-
-/// Starts the service as a program that can be killed; its address.
-QByteArray tst_ServiceUploads::startProgram(QProcess& program, const QStringList& arguments) const
-{
-    program.start(RK_SERVICE, QStringList{"--store", m_store} + arguments);
-    return program.waitForReadyRead() ? program.readLine().trimmed() : QByteArray();
+    QCOMPARE(m_log.stop(), QStringList());
 }
 
 void tst_ServiceUploads::outcomes_data()
@@ -185,7 +142,7 @@ void tst_ServiceUploads::outcomes()
 {
     QFETCH(QString, fault);
     QFETCH(QString, outcome);
-    WebServiceServer server(options(fault));
+    WebServiceServer server(LocalService::options(m_store, fault));
     QVERIFY(server.start());
     Upload upload(server.address());
     upload.post();
@@ -216,7 +173,7 @@ void tst_ServiceUploads::refusals()
     QFETCH(QByteArray, path);
     QFETCH(QByteArray, body);
     QFETCH(QString, outcome);
-    WebServiceServer server(options());
+    WebServiceServer server(LocalService::options(m_store));
     QVERIFY(server.start());
     Upload upload(server.address());
     upload.object->SetUrl(server.address() + path);
@@ -239,7 +196,7 @@ void tst_ServiceUploads::documentArrivesWhole()
     QByteArray document(size, Qt::Uninitialized);
     for (int i = 0; i < size; ++i)
         document[i] = char(i * 31 + i / 251);
-    WebServiceServer server(options());
+    WebServiceServer server(LocalService::options(m_store));
     QVERIFY(server.start());
     Upload upload(server.address());
     upload.post("data=" + applicationJson("江").replace("dGV4dA==", document.toBase64()));
@@ -263,7 +220,7 @@ void tst_ServiceUploads::serviceThatStandsStill()
 {
     QFETCH(QString, fault);
     SetUploadTimeout(300);
-    WebServiceServer server(options(fault));
+    WebServiceServer server(LocalService::options(m_store, fault));
     QVERIFY(server.start());
     Upload upload(server.address());
     upload.post();
@@ -275,7 +232,7 @@ void tst_ServiceUploads::serviceThatStandsStill()
 void tst_ServiceUploads::serviceDiesBeforeTheBody()
 {
     QProcess program;
-    const QByteArray address = startProgram(program);
+    const QByteArray address = LocalService::start(program, m_store);
     program.kill();
     QVERIFY(program.waitForFinished());
     Upload upload(address);
@@ -286,9 +243,9 @@ void tst_ServiceUploads::serviceDiesBeforeTheBody()
 void tst_ServiceUploads::serviceDiesDuringTheBody()
 {
     QProcess program;
-    const QByteArray address = startProgram(program);
+    const QByteArray address = LocalService::start(program, m_store);
     // While it is stopped, the system takes the connection and as much of the body as it buffers.
-    QVERIFY(suspend(program));
+    QVERIFY(LocalService::suspend(program));
     Upload upload(address);
     QSignalSpy progress(upload.object.get(), &CRkUpLoadObject::uploadProgress);
     upload.post(QByteArray(64 * 1024 * 1024, 'x'));
@@ -304,7 +261,7 @@ void tst_ServiceUploads::serviceDiesDuringTheBody()
 void tst_ServiceUploads::serviceDiesAfterTheBody()
 {
     QProcess program;
-    const QByteArray address = startProgram(program, {"--fault", "stall"});
+    const QByteArray address = LocalService::start(program, m_store, {"--fault", "stall"});
     Upload upload(address);
     upload.post();
     QTRY_VERIFY(upload.isSent);
@@ -329,7 +286,7 @@ void tst_ServiceUploads::deletedInEveryFault_data()
 void tst_ServiceUploads::deletedInEveryFault()
 {
     QFETCH(QString, fault);
-    WebServiceServer server(options(fault));
+    WebServiceServer server(LocalService::options(m_store, fault));
     QVERIFY(server.start());
     Upload upload(server.address());
     upload.post();
@@ -352,8 +309,8 @@ void tst_ServiceUploads::fiftyRetriesLeaveNothing()
 {
     QFETCH(QString, fault);
     QProcess program;
-    const QByteArray address =
-        startProgram(program, fault.isEmpty() ? QStringList() : QStringList{"--fault", fault});
+    const QByteArray address = LocalService::start(
+        program, m_store, fault.isEmpty() ? QStringList() : QStringList{"--fault", fault});
     QVERIFY(!address.isEmpty());
     {
         Upload first(address); // The toolkit opens some files at the first request only.

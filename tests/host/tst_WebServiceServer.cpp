@@ -1,15 +1,14 @@
 // SPDX-FileCopyrightText: 2026 The RkBaseUI developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
-#include "service/WebServiceServer.h"
 #include "ServiceRequests.h"
+#include "support/LocalService.h"
 #include "support/TestSupport.h"
 
 #include <QElapsedTimer>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QProcess>
 #include <QTemporaryDir>
 #include <QtTest>
 
@@ -63,7 +62,10 @@ private slots:
     void programUsesItsOptions();
 
 private:
-    ServiceOptions options(const QString& fault = QString()) const;
+    ServiceOptions options(const QString& fault = QString()) const
+    {
+        return LocalService::options(m_store, fault);
+    }
     QStringList stored(const QString& what) const;
 
     std::unique_ptr<QTemporaryDir> m_dir;
@@ -83,15 +85,6 @@ void tst_WebServiceServer::init()
 {
     m_dir = std::make_unique<QTemporaryDir>();
     m_store = m_dir->filePath("service.db");
-}
-
-ServiceOptions tst_WebServiceServer::options(const QString& fault) const
-{
-    ServiceOptions options;
-    options.storeFile = m_store;
-    options.token = "secret";
-    options.fault = parseServiceFault(fault).value_or(ServiceFault());
-    return options;
 }
 
 QStringList tst_WebServiceServer::stored(const QString& what) const
@@ -549,9 +542,7 @@ void tst_WebServiceServer::stopDoesNotWaitForStalledRequests()
 void tst_WebServiceServer::programServesUntilItsInputEnds()
 {
     QProcess program;
-    program.start(RK_SERVICE, {"--store", m_store});
-    QVERIFY(program.waitForReadyRead());
-    const QByteArray address = program.readLine().trimmed();
+    const QByteArray address = LocalService::start(program, m_store);
     QVERIFY(address.startsWith("http://127.0.0.1:"));
     QCOMPARE(get(address, "/bing/location").status, 200);
     program.closeWriteChannel();
@@ -593,11 +584,8 @@ void tst_WebServiceServer::programRefusesBadOptions()
 void tst_WebServiceServer::programUsesItsOptions()
 {
     QProcess program;
-    program.start(
-        RK_SERVICE,
-        {"--store", m_store, "--token", "mine", "--location", "-33.9,18.4", "--fault", "delay:1"});
-    QVERIFY(program.waitForReadyRead());
-    const QByteArray address = program.readLine().trimmed();
+    const QByteArray address = LocalService::start(
+        program, m_store, {"--token", "mine", "--location", "-33.9,18.4", "--fault", "delay:1"});
     QCOMPARE(jsonOf(get(address, "/bing/location")).value("data")["center"].toArray(),
              QJsonArray({18.4, -33.9}));
     QCOMPARE(post(address, "/project/upload", "other", "{}").status, 401);

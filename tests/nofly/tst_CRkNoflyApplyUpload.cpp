@@ -4,6 +4,7 @@
 #include <RkBaseUI/CRkNoflyApplyUpload.h>
 
 #include "support/Brackets.h"
+#include "support/MessageLog.h"
 #include "support/PostServer.h"
 #include "support/ProcessCounts.h"
 
@@ -25,15 +26,6 @@ namespace {
 
 const QString failed = QStringLiteral("UpLoad File Failed.");
 const QByteArray json = R"({"name":"a&b=%41+"})";
-
-QStringList messages;
-
-/// All but what the window system says of a display without a window manager.
-void collectMessage(QtMsgType /*type*/, const QMessageLogContext& context, const QString& text)
-{
-    if (qstrcmp(context.category, "qt.qpa.xcb") != 0)
-        messages.append(text);
-}
 
 QString prompt(const QWidget& window)
 {
@@ -108,7 +100,8 @@ private slots:
     void serviceThatStandsStill();
     void userThatIsNotLoggedIn_data();
     void userThatIsNotLoggedIn();
-    void beginWhileUnderWay();
+    void beginWhileTheThreadRuns_data();
+    void beginWhileTheThreadRuns();
     void beginAfterAFailure();
 
     void setUpLoadRet();
@@ -137,7 +130,7 @@ private:
 
     std::unique_ptr<PostServer> m_server;
     int m_threads = 0;
-    QtMessageHandler m_previousHandler = nullptr;
+    MessageLog m_log;
 };
 
 /// The toolkit opens some files and threads for the first window and at the first request.
@@ -152,8 +145,7 @@ void tst_CRkNoflyApplyUpload::initTestCase()
 
 void tst_CRkNoflyApplyUpload::init()
 {
-    messages.clear();
-    m_previousHandler = qInstallMessageHandler(collectMessage);
+    m_log.start();
     m_server = std::make_unique<PostServer>();
     SetServerIP(m_server->address());
     SetCurUserInfo({"secret", "1", "Wang"});
@@ -164,8 +156,7 @@ void tst_CRkNoflyApplyUpload::cleanup()
 {
     SetUploadTimeout(60000);
     m_server.reset();
-    qInstallMessageHandler(m_previousHandler);
-    QVERIFY2(messages.isEmpty(), qPrintable(messages.join("\n")));
+    QCOMPARE(m_log.stop(), QStringList());
 }
 
 void tst_CRkNoflyApplyUpload::construction()
@@ -372,20 +363,33 @@ void tst_CRkNoflyApplyUpload::userThatIsNotLoggedIn()
     QCOMPARE(ended.count(), 0);
 }
 
-/// The later document is the one that a retry sends.
-void tst_CRkNoflyApplyUpload::beginWhileUnderWay()
+void tst_CRkNoflyApplyUpload::beginWhileTheThreadRuns_data()
 {
-    m_server->behaviour = PostServer::KeepsSilent;
-    CRkNoflyApplyUpload window(nullptr);
-    window.BeginUpload(json);
-    QTRY_COMPARE(m_server->requests.size(), 1);
-    window.BeginUpload("{}");
-    settle();
-    QCOMPARE(m_server->requests.size(), 1);
+    QTest::addColumn<QString>("state");
+    QTest::newRow("request under way") << "answer awaited";
+    QTest::newRow("user not logged in") << "not logged in";
+}
+
+/// The later document is the one that a retry sends.
+void tst_CRkNoflyApplyUpload::beginWhileTheThreadRuns()
+{
+    QFETCH(QString, state);
+    const auto window = inState(state);
+    QVERIFY(window);
     m_server->behaviour = PostServer::Answers;
-    const QSignalSpy accepted(&window, &QDialog::accepted);
-    window.slotBtnRetryClicked();
+    m_server->answer = answerOf(200);
+    window->BeginUpload("{}");
+    // Whatever it sent would be there before what another sends after it.
+    CRkNoflyApplyUpload another(nullptr);
+    const QSignalSpy anotherAccepted(&another, &QDialog::accepted);
+    another.BeginUpload("another");
+    QTRY_COMPARE(anotherAccepted.count(), 1);
+    QCOMPARE(m_server->requests.size(), 2);
+
+    const QSignalSpy accepted(window.get(), &QDialog::accepted);
+    window->slotBtnRetryClicked();
     QTRY_COMPARE(accepted.count(), 1);
+    QCOMPARE(m_server->requests.size(), 3);
     QCOMPARE(m_server->requests.last().body, QByteArray("data={}"));
 }
 

@@ -5,6 +5,7 @@
 
 #include "support/BoxAnswerer.h"
 #include "support/Brackets.h"
+#include "support/MessageLog.h"
 #include "support/TestSupport.h"
 #include "support/WindowWaits.h"
 #include "widgets/AtScale.h"
@@ -35,15 +36,6 @@ const QString noDocument = QStringLiteral("Please select the application documen
 const QString noName = QStringLiteral("Please input the Authorization Name.");
 const QString noDuration = QStringLiteral("Please input the invalid date time.");
 const QString blockId = QStringLiteral("block-1");
-
-QStringList messages;
-
-/// All but what the window system says of a display without a window manager.
-void collectMessage(QtMsgType /*type*/, const QMessageLogContext& context, const QString& text)
-{
-    if (qstrcmp(context.category, "qt.qpa.xcb") != 0)
-        messages.append(text);
-}
 
 template <typename T>
 T* part(const QWidget& form, const char* name)
@@ -215,20 +207,18 @@ private slots:
 
 private:
     TestHome m_home;
-    QtMessageHandler m_previousHandler = nullptr;
+    MessageLog m_log;
 };
 
 void tst_CRkNoflyApplyWgt::init()
 {
     ClearBlocks();
-    messages.clear();
-    m_previousHandler = qInstallMessageHandler(collectMessage);
+    m_log.start();
 }
 
 void tst_CRkNoflyApplyWgt::cleanup()
 {
-    qInstallMessageHandler(m_previousHandler);
-    QVERIFY2(messages.isEmpty(), qPrintable(messages.join("\n")));
+    QCOMPARE(m_log.stop(), QStringList());
 }
 
 void tst_CRkNoflyApplyWgt::construction()

@@ -3,6 +3,8 @@
 
 #include "nofly/NoFlyDocument.h"
 
+#include "support/MessageLog.h"
+
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QTest>
@@ -12,13 +14,6 @@
 using NoFlyDocument::Application;
 
 namespace {
-
-QStringList messages;
-
-void collectMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text)
-{
-    messages.append(text);
-}
 
 QDateTime at(const QString& text)
 {
@@ -76,19 +71,17 @@ private slots:
     void bodyIsNotEncoded();
 
 private:
-    QtMessageHandler m_previousHandler = nullptr;
+    MessageLog m_log;
 };
 
 void tst_NoFlyDocument::init()
 {
-    messages.clear();
-    m_previousHandler = qInstallMessageHandler(collectMessage);
+    m_log.start();
 }
 
 void tst_NoFlyDocument::cleanup()
 {
-    qInstallMessageHandler(m_previousHandler);
-    QCOMPARE(messages, QStringList());
+    QCOMPARE(m_log.stop(), QStringList());
 }
 
 void tst_NoFlyDocument::rows_data()

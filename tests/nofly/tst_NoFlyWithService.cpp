@@ -1,7 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The RkBaseUI developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
-#include "service/WebServiceServer.h"
+#include "support/LocalService.h"
+#include "support/MessageLog.h"
 #include "support/ProcessCounts.h"
 #include "support/TestSupport.h"
 
@@ -16,24 +17,12 @@
 #include <QLabel>
 #include <QLineEdit>
 #include <QPlainTextEdit>
-#include <QProcess>
 #include <QProgressBar>
 #include <QPushButton>
 #include <QSignalSpy>
 #include <QTest>
 
-#include <csignal>
-
 namespace {
-
-QStringList messages;
-
-/// All but what the window system says of a display without a window manager.
-void collectMessage(QtMsgType /*type*/, const QMessageLogContext& context, const QString& text)
-{
-    if (qstrcmp(context.category, "qt.qpa.xcb") != 0)
-        messages.append(text);
-}
 
 /// How an upload looks from outside.
 QString stateOf(const CRkNoflyApplyUpload& window)
@@ -107,7 +96,6 @@ private slots:
     void fiftyRetriesLeaveNothing();
 
 private:
-    ServiceOptions options(const QString& fault = QString()) const;
     void startProgram(QProcess& program, const QStringList& arguments = {}) const;
     QStringList stored(const QString& column) const
     {
@@ -117,7 +105,7 @@ private:
     std::unique_ptr<QTemporaryDir> m_dir;
     QString m_store;
     QByteArray m_json;
-    QtMessageHandler m_previousHandler = nullptr;
+    MessageLog m_log;
 };
 
 void tst_NoFlyWithService::init()
@@ -128,37 +116,26 @@ void tst_NoFlyWithService::init()
     QVERIFY(writeFile(document, QByteArray("\0text\xff", 6)));
     m_json = filledForm(document)->ComboUploadData();
     SetCurUserInfo({"secret", "1", "Wang"});
-    messages.clear();
-    m_previousHandler = qInstallMessageHandler(collectMessage);
+    m_log.start();
 }
 
 void tst_NoFlyWithService::cleanup()
 {
-    qInstallMessageHandler(m_previousHandler);
     SetUploadTimeout(60000);
-    QVERIFY2(messages.isEmpty(), qPrintable(messages.join("\n")));
-}
-
-ServiceOptions tst_NoFlyWithService::options(const QString& fault) const
-{
-    ServiceOptions options;
-    options.storeFile = m_store;
-    options.token = "secret";
-    options.fault = parseServiceFault(fault).value_or(ServiceFault());
-    return options;
+    QCOMPARE(m_log.stop(), QStringList());
 }
 
 /// Starts the service as a program that can be killed, and makes it the service of this process.
 void tst_NoFlyWithService::startProgram(QProcess& program, const QStringList& arguments) const
 {
-    program.start(RK_SERVICE, QStringList{"--store", m_store} + arguments);
-    QVERIFY(program.waitForReadyRead());
-    SetServerIP(program.readLine().trimmed());
+    const QByteArray address = LocalService::start(program, m_store, arguments);
+    QVERIFY(!address.isEmpty());
+    SetServerIP(address);
 }
 
 void tst_NoFlyWithService::applicationArrives()
 {
-    WebServiceServer server(options());
+    WebServiceServer server(LocalService::options(m_store));
     QVERIFY(server.start());
     SetServerIP(server.address());
     const auto form = filledForm(m_dir->filePath("permit.pdf"));
@@ -186,7 +163,7 @@ void tst_NoFlyWithService::documentOf100MBArrives()
         content[i] = char(i % 251 + i / 65536);
     const QString document = m_dir->filePath("large.pdf");
     QVERIFY(writeFile(document, content));
-    WebServiceServer server(options());
+    WebServiceServer server(LocalService::options(m_store));
     QVERIFY(server.start());
     SetServerIP(server.address());
     CRkNoflyApplyUpload window(nullptr);
@@ -227,7 +204,7 @@ void tst_NoFlyWithService::outcomes()
 {
     QFETCH(QString, fault);
     QFETCH(QString, state);
-    WebServiceServer server(options(fault));
+    WebServiceServer server(LocalService::options(m_store, fault));
     QVERIFY(server.start());
     SetServerIP(server.address());
     CRkNoflyApplyUpload window(nullptr);
@@ -238,7 +215,7 @@ void tst_NoFlyWithService::outcomes()
 void tst_NoFlyWithService::wrongToken()
 {
     SetCurUserInfo({"other", "1", "Wang"});
-    WebServiceServer server(options());
+    WebServiceServer server(LocalService::options(m_store));
     QVERIFY(server.start());
     SetServerIP(server.address());
     CRkNoflyApplyUpload window(nullptr);
@@ -249,7 +226,7 @@ void tst_NoFlyWithService::wrongToken()
 
 void tst_NoFlyWithService::nothingFilledInIsRefused()
 {
-    WebServiceServer server(options());
+    WebServiceServer server(LocalService::options(m_store));
     QVERIFY(server.start());
     SetServerIP(server.address());
     CRkNoflyApplyUpload window(nullptr);
@@ -268,7 +245,7 @@ void tst_NoFlyWithService::serviceThatStandsStill()
 {
     QFETCH(QString, fault);
     SetUploadTimeout(300);
-    WebServiceServer server(options(fault));
+    WebServiceServer server(LocalService::options(m_store, fault));
     QVERIFY(server.start());
     SetServerIP(server.address());
     CRkNoflyApplyUpload window(nullptr);
@@ -292,7 +269,7 @@ void tst_NoFlyWithService::serviceDiesDuringTheBody()
     QProcess program;
     startProgram(program);
     // While it is stopped, the system takes the connection and as much of the body as it buffers.
-    QCOMPARE(::kill(pid_t(program.processId()), SIGSTOP), 0);
+    QVERIFY(LocalService::suspend(program));
     CRkNoflyApplyUpload window(nullptr);
     window.BeginUpload(QByteArray(64 * 1024 * 1024, 'x'));
     QTRY_VERIFY(window.findChild<QProgressBar*>()->value() > 0);
@@ -318,7 +295,7 @@ void tst_NoFlyWithService::retryWhenTheServiceIsBack()
 {
     CRkNoflyApplyUpload window(nullptr);
     {
-        WebServiceServer server(options("cut"));
+        WebServiceServer server(LocalService::options(m_store, "cut"));
         QVERIFY(server.start());
         SetServerIP(server.address());
         window.BeginUpload(m_json);
@@ -328,7 +305,7 @@ void tst_NoFlyWithService::retryWhenTheServiceIsBack()
     QTRY_COMPARE(stateOf(window), QString("failed"));
     QVERIFY(QFile::remove(m_store));
 
-    WebServiceServer server(options());
+    WebServiceServer server(LocalService::options(m_store));
     QVERIFY(server.start());
     SetServerIP(server.address());
     window.slotBtnRetryClicked();
