@@ -8,6 +8,7 @@
 // sorting and searching sorts or filters plain records and fills a bare tree with them.
 
 #include "Bench.h"
+#include "PlainDatabase.h"
 
 #include <RkBaseUI/CRkBlockManagerWidget.h>
 
@@ -40,35 +41,11 @@ constexpr int flightsOfATask = 10;
 const QString userId = QStringLiteral("user-1");
 const QString projectId = QStringLiteral("6f9619ff-8b86-d011-b42d-00c04fc964ff");
 
-class Database
-{
-public:
-    explicit Database(const QString& file)
-    {
-        sqlite3_open_v2(QFile::encodeName(file).constData(), &m_handle,
-                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
-    }
-    ~Database() { sqlite3_close(m_handle); }
-    Q_DISABLE_COPY(Database)
-
-    void run(const QString& sql) const
-    {
-        if (sqlite3_exec(m_handle, sql.toUtf8().constData(), nullptr, nullptr, nullptr)
-            != SQLITE_OK)
-            std::abort();
-    }
-
-    sqlite3* handle() const { return m_handle; }
-
-private:
-    sqlite3* m_handle = nullptr;
-};
-
 /// A prepared statement that is asked again with other values.
 class Statement
 {
 public:
-    Statement(const Database& database, const QString& sql)
+    Statement(const bench::PlainDatabase& database, const QString& sql)
     {
         if (sqlite3_prepare_v2(database.handle(), sql.toUtf8().constData(), -1, &m_handle, nullptr)
             != SQLITE_OK)
@@ -105,9 +82,9 @@ QString makeProject(const QTemporaryDir& folder, int blocks)
 {
     const QString name = QString::number(blocks);
     const QString file = folder.filePath(name + ".proj");
-    const Database project(file);
-    const Database flights(CRkControl::GetFlightMissionFilePath(file));
-    for (const Database* database : {&project, &flights})
+    const bench::PlainDatabase project(file);
+    const bench::PlainDatabase flights(CRkControl::GetFlightMissionFilePath(file));
+    for (const bench::PlainDatabase* database : {&project, &flights})
         database->run("PRAGMA synchronous=OFF; BEGIN");
     project.run("CREATE TABLE " + ProjectTableName + GetProjectTableContents());
     project.run("CREATE TABLE " + SurveyAreaTableName + GetSurveyAreaTableContents());
@@ -137,7 +114,8 @@ QString makeProject(const QTemporaryDir& folder, int blocks)
                         + task + "' FROM n");
         }
     }
-    const auto makeIndex = [](const Database& database, const QString& table, const char* column) {
+    const auto makeIndex = [](const bench::PlainDatabase& database, const QString& table,
+                              const char* column) {
         database.run("CREATE INDEX " + table + "_" + column + " ON " + table + " (" + column + ")");
     };
     makeIndex(project, SurveyAreaTableName, "project_id");
@@ -161,8 +139,8 @@ enum class Locking { EachStatement, Once };
 
 Answers askPlainly(const QString& file, Locking locking)
 {
-    const Database project(file);
-    const Database flightFile(CRkControl::GetFlightMissionFilePath(file));
+    const bench::PlainDatabase project(file);
+    const bench::PlainDatabase flightFile(CRkControl::GetFlightMissionFilePath(file));
     if (locking == Locking::Once) {
         project.run("BEGIN");
         flightFile.run("BEGIN");

@@ -6,6 +6,7 @@
 // is curl, which sends the same body to the same service, its start-up included.
 
 #include "Bench.h"
+#include "PlainDatabase.h"
 
 #include <RkAlgorthm/ReferenceSettings.h>
 #include <RkAlgorthm/RkAlgorthm.h>
@@ -36,30 +37,17 @@ constexpr int blockCount = 1000;
 constexpr int tasksOfABlock = 20;
 constexpr int documentBytes = 20 * 1000 * 1000;
 
-class Database
+class Database : public bench::PlainDatabase
 {
 public:
-    explicit Database(const QString& file)
-    {
-        sqlite3_open_v2(QFile::encodeName(file).constData(), &m_handle,
-                        SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
-    }
-    ~Database() { sqlite3_close(m_handle); }
-    Q_DISABLE_COPY(Database)
-
-    void run(const QString& sql) const
-    {
-        if (sqlite3_exec(m_handle, sql.toUtf8().constData(), nullptr, nullptr, nullptr)
-            != SQLITE_OK)
-            std::abort();
-    }
+    using PlainDatabase::PlainDatabase;
 
     /// Calls `take` with the object of each row.
     template <typename Take>
     void forEachRow(const QString& sql, Take&& take) const
     {
         sqlite3_stmt* statement = nullptr;
-        if (sqlite3_prepare_v2(m_handle, sql.toUtf8().constData(), -1, &statement, nullptr)
+        if (sqlite3_prepare_v2(handle(), sql.toUtf8().constData(), -1, &statement, nullptr)
             != SQLITE_OK)
             std::abort();
         while (sqlite3_step(statement) == SQLITE_ROW)
@@ -91,8 +79,6 @@ private:
         }
         return object;
     }
-
-    sqlite3* m_handle = nullptr;
 };
 
 QString makeProject(const QString& file, bool isIndexed)

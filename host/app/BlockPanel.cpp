@@ -4,6 +4,7 @@
 #include "app/BlockPanel.h"
 
 #include "app/ElidedLabel.h"
+#include "app/PageStyle.h"
 #include "map/ScaleBar.h"
 
 #include <QDir>
@@ -65,19 +66,11 @@ QHeaderView::section {
     background-color: rgb(240, 243, 248); color: rgb(84, 100, 130); border: none;
     border-bottom: 1px solid rgb(226, 232, 240); padding: 7px 8px; font-size: 12px;
 }
-QScrollBar:vertical { background: transparent; width: 10px; margin: 0; }
-QScrollBar::handle:vertical {
-    background: rgb(198, 205, 216); border-radius: 4px; min-height: 40px; margin: 1px;
-}
-QScrollBar::add-line, QScrollBar::sub-line { height: 0; }
-QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 )";
 
 QLabel* makeLabel(const char* role, QWidget* parent)
 {
-    auto* label = new QLabel(parent);
-    label->setProperty("role", QLatin1String(role));
-    label->setTextFormat(Qt::PlainText);
+    QLabel* label = PageStyle::makeLabel(role, parent);
     label->setWordWrap(true);
     return label;
 }
@@ -114,7 +107,7 @@ BlockPanel::BlockPanel(QWidget* parent)
     : QWidget(parent)
     , m_pages(new QStackedWidget(this))
 {
-    setStyleSheet(QString::fromLatin1(panelStyle));
+    setStyleSheet(QString::fromLatin1(panelStyle) + QString::fromLatin1(PageStyle::scrollBar));
     setAttribute(Qt::WA_StyledBackground);
     m_pages->addWidget(makeEmptyPage());
     m_pages->addWidget(makeBlockPage());

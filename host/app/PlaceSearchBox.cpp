@@ -6,6 +6,7 @@
 #include "app/BusyRing.h"
 #include "app/HostIcons.h"
 #include "app/HostSettings.h"
+#include "app/PageStyle.h"
 #include "app/PlaceDelegate.h"
 #include "app/PlateStyle.h"
 #include "map/PlaceNames.h"
@@ -50,12 +51,6 @@ QListWidget {
     border-radius: 4px; outline: none; padding: 3px;
 }
 QListWidget:focus { border-color: rgb(58, 136, 244); }
-QScrollBar:vertical { background: transparent; width: 10px; margin: 0; }
-QScrollBar::handle:vertical {
-    background: rgb(198, 205, 216); border-radius: 4px; min-height: 40px; margin: 1px;
-}
-QScrollBar::add-line, QScrollBar::sub-line { height: 0; }
-QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 )";
 
 QString shownName(const FoundPlace& place)
@@ -71,7 +66,8 @@ PlaceSearchBox::PlaceSearchBox(QWidget* parent)
     setAttribute(Qt::WA_NoMousePropagation); // What lies below is not meant.
     setCursor(Qt::ArrowCursor);
     setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Maximum);
-    setStyleSheet(QString::fromLatin1(PlateStyle::styleSheet) + QString::fromLatin1(boxStyle));
+    setStyleSheet(QString::fromLatin1(PlateStyle::styleSheet) + QString::fromLatin1(boxStyle)
+                  + QString::fromLatin1(PageStyle::scrollBar));
     makeField();
     makeNote();
     makeList();

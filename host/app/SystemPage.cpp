@@ -3,6 +3,8 @@
 
 #include "app/SystemPage.h"
 
+#include "app/PageStyle.h"
+
 #include <QClipboard>
 #include <QEvent>
 #include <QFormLayout>
@@ -48,25 +50,11 @@ QPushButton:hover { background-color: rgb(92, 158, 250); }
 QPushButton:pressed { background-color: rgb(38, 108, 208); }
 QPushButton:focus { border: 2px solid rgb(4, 21, 46); padding: 7px 16px; }
 QPushButton:disabled { color: rgb(104, 120, 148); background-color: rgb(226, 232, 240); }
-QScrollBar:vertical { background: transparent; width: 10px; margin: 0; }
-QScrollBar::handle:vertical {
-    background: rgb(198, 205, 216); border-radius: 4px; min-height: 40px; margin: 1px;
-}
-QScrollBar::add-line, QScrollBar::sub-line { height: 0; }
-QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 )";
-
-QLabel* makeLabel(const char* role, QWidget* parent)
-{
-    auto* label = new QLabel(parent);
-    label->setProperty("role", QLatin1String(role));
-    label->setTextFormat(Qt::PlainText);
-    return label;
-}
 
 QLabel* makeValue(QWidget* parent)
 {
-    QLabel* label = makeLabel("value", parent);
+    QLabel* label = PageStyle::makeLabel("value", parent);
     label->setWordWrap(true);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse | Qt::TextSelectableByKeyboard);
     label->setCursor(Qt::IBeamCursor);
@@ -87,7 +75,7 @@ SystemPage::SystemPage(QWidget* parent, const Gather& gather)
     : QWidget(parent)
     , m_gather(gather)
 {
-    setStyleSheet(QString::fromLatin1(pageStyle));
+    setStyleSheet(QString::fromLatin1(pageStyle) + QString::fromLatin1(PageStyle::scrollBar));
     setAttribute(Qt::WA_StyledBackground);
     auto* scroll = new QScrollArea(this);
     scroll->setWidgetResizable(true);
@@ -120,8 +108,8 @@ QWidget* SystemPage::makeHead()
 {
     auto* head = new QWidget(this);
     head->setMaximumWidth(columnWidth);
-    m_title = makeLabel("name", head);
-    m_note = makeLabel("note", head);
+    m_title = PageStyle::makeLabel("name", head);
+    m_note = PageStyle::makeLabel("note", head);
     m_note->setWordWrap(true);
     m_copy = new QPushButton(head);
     m_copy->setCursor(Qt::PointingHandCursor);
@@ -161,7 +149,7 @@ void SystemPage::addSection(QBoxLayout* layout, int rowCount)
 {
     QWidget* body = layout->parentWidget();
     Section section;
-    section.heading = makeLabel("heading", body);
+    section.heading = PageStyle::makeLabel("heading", body);
     layout->addWidget(section.heading);
     auto* form = new QFormLayout;
     form->setContentsMargins(0, 0, 0, 0);
@@ -170,7 +158,7 @@ void SystemPage::addSection(QBoxLayout* layout, int rowCount)
     form->setLabelAlignment(Qt::AlignLeft | Qt::AlignTop);
     form->setFieldGrowthPolicy(QFormLayout::AllNonFixedFieldsGrow);
     for (int i = 0; i < rowCount; ++i) {
-        const Row row{makeLabel("title", body), makeValue(body)};
+        const Row row{PageStyle::makeLabel("title", body), makeValue(body)};
         row.title->setAlignment(Qt::AlignLeft | Qt::AlignTop); // Beside the first of several lines.
         row.title->setBuddy(row.value);
         form->addRow(row.title, row.value);

@@ -3,6 +3,7 @@
 
 #include "app/UploadDialog.h"
 
+#include "app/PageStyle.h"
 #include "app/UploadNames.h"
 #include "app/UploadTreeModel.h"
 
@@ -44,12 +45,6 @@ QHeaderView::section {
 }
 QProgressBar { background-color: rgb(232, 237, 246); border: none; border-radius: 3px; }
 QProgressBar::chunk { background-color: rgb(58, 136, 244); border-radius: 3px; }
-QScrollBar:vertical { background: transparent; width: 10px; margin: 0; }
-QScrollBar::handle:vertical {
-    background: rgb(198, 205, 216); border-radius: 4px; min-height: 40px; margin: 1px;
-}
-QScrollBar::add-line, QScrollBar::sub-line { height: 0; }
-QScrollBar::add-page, QScrollBar::sub-page { background: transparent; }
 )";
 
 QLabel* makeLabel(const char* name, const QString& text, QWidget* parent)
@@ -69,7 +64,8 @@ UploadDialog::UploadDialog(const QString& projectName, const QByteArray& documen
 {
     SetWindowTitle(tr("Upload project"));
     auto* content = new QWidget(this);
-    content->setStyleSheet(QString::fromLatin1(contentStyle));
+    content->setStyleSheet(QString::fromLatin1(contentStyle)
+                           + QString::fromLatin1(PageStyle::scrollBar));
     auto* inner = new QVBoxLayout(content);
     inner->setContentsMargins(24, 20, 24, 18);
     inner->setSpacing(6);
