@@ -45,14 +45,18 @@ public:
     QString GetCurDate() const;
 
 public Q_SLOTS:
+    /// Open the popup centred under its button when checked; nothing otherwise.
     void slotCityBtnToggled(bool checked);
     void slotDateBtnToggled(bool checked);
+    /// Show the text as the condition, hide the popup and tell.
     void slotCitySelected(const QString& city);
     void slotDateSelected(const QString& date);
+    /// Release the button of the popup. The condition stays.
     void slotCityWidgetClosed();
     void slotDateWidgetClosed();
 
 Q_SIGNALS:
+    /// The user picked a condition, perhaps the same again. GetCurCity() or GetCurDate() has it.
     void CityConditionChanged();
     void DateConditionChanged();
 

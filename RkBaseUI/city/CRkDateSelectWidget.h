@@ -5,6 +5,7 @@
 
 #include <RkBaseUI/RkBaseUIExport.h>
 
+#include <QPointer>
 #include <QWidget>
 
 #include <memory>
@@ -72,5 +73,5 @@ private:
     void _selectLastDays(int days);
 
     const std::unique_ptr<Ui::CRkDateSelectWidget> m_ui;
-    QLineEdit* m_activeEdit = nullptr; ///< Not owned.
+    QPointer<QLineEdit> m_activeEdit; ///< Not owned.
 };

@@ -164,11 +164,14 @@ private slots:
     void frequentCitiesAreInTheCatalogue_data();
     void frequentCitiesAreInTheCatalogue();
     void tabsAndPlaceholders();
+    void placeholdersAreTranslated();
     void initWidget();
 
     void startsWithAll();
     void startsWithTheStoredDefault_data();
     void startsWithTheStoredDefault();
+    void storedDefaultIsNoText_data();
+    void storedDefaultIsNoText();
     void setDefaultCity();
     void pickingStoresNothing();
     void pick_data();
@@ -444,6 +447,18 @@ void tst_CRkCitySelectWidget::tabsAndPlaceholders()
     QCOMPARE(picker.keyword().placeholderText(), QString("Enter the province name"));
 }
 
+void tst_CRkCitySelectWidget::placeholdersAreTranslated()
+{
+    Brackets translator("CRkCitySelectWidget");
+    QCoreApplication::installTranslator(&translator);
+    Picker picker;
+    QCOMPARE(picker.keyword().placeholderText(), QString("[input the city name]"));
+    picker.slotButtonGroupCityByLetterClicked();
+    QCOMPARE(picker.keyword().placeholderText(), QString("[Enter a city name]"));
+    picker.slotButtonGroupCityByProvinceClicked();
+    QCOMPARE(picker.keyword().placeholderText(), QString("[Enter the province name]"));
+}
+
 void tst_CRkCitySelectWidget::initWidget()
 {
     Picker picker;
@@ -484,6 +499,25 @@ void tst_CRkCitySelectWidget::startsWithTheStoredDefault()
     QCOMPARE(picker.current(), stored);
     QVERIFY(picker.minimumSizeHint().width() <= 740);
     QVERIFY(picker.minimumSizeHint().height() <= 600);
+}
+
+void tst_CRkCitySelectWidget::storedDefaultIsNoText_data()
+{
+    QTest::addColumn<QVariant>("stored");
+    QTest::addColumn<QString>("shown");
+    // What a comma without quotes makes of a text in the file.
+    QTest::newRow("list") << QVariant(QStringList{"Beijing", "China"}) << "All";
+    QTest::newRow("invalid") << QVariant() << "All";
+    QTest::newRow("number") << QVariant(42) << "42";
+    QTest::newRow("date") << QVariant(QDate(2026, 6, 15)) << "2026-06-15";
+}
+
+/// Somebody edited the settings by hand.
+void tst_CRkCitySelectWidget::storedDefaultIsNoText()
+{
+    QFETCH(QVariant, stored);
+    storeDefault(stored);
+    QTEST(Picker().getDefaultSelection(), "shown");
 }
 
 void tst_CRkCitySelectWidget::setDefaultCity()

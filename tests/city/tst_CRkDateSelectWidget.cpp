@@ -163,6 +163,7 @@ private slots:
     void calendarFillsTheActiveField();
     void frameShowsTheActiveField();
     void foreignFieldChangesNoFrame();
+    void foreignFieldThatIsGone();
     void pressMakesActive_data();
     void pressMakesActive();
     void pressSelectsTheDate_data();
@@ -451,6 +452,17 @@ void tst_CRkDateSelectWidget::foreignFieldChangesNoFrame()
     QVERIFY(foreign.styleSheet().isEmpty());
     page.slotCalenderClicked(QDate(2026, 6, 9));
     QCOMPARE(foreign.text(), QString("2026-06-09"));
+    QVERIFY(page.to().text().isEmpty());
+}
+
+void tst_CRkDateSelectWidget::foreignFieldThatIsGone()
+{
+    Page page;
+    auto foreign = std::make_unique<QLineEdit>();
+    page.SetActiveCalendarEdit(foreign.get());
+    foreign.reset();
+    page.slotCalenderClicked(QDate(2026, 6, 9));
+    QVERIFY(page.from().text().isEmpty());
     QVERIFY(page.to().text().isEmpty());
 }
 

@@ -74,8 +74,8 @@ class tst_Translations : public QObject
 private slots:
     void everyTextOfTheSourcesIsTranslated_data();
     void everyTextOfTheSourcesIsTranslated();
-    void translationsKeepPlaceholdersAndEdges_data();
-    void translationsKeepPlaceholdersAndEdges();
+    void translationsKeepPlaceholdersAndLines_data();
+    void translationsKeepPlaceholdersAndLines();
     void loadedFileTranslates_data();
     void loadedFileTranslates();
     void customIsOneText_data();
@@ -152,12 +152,12 @@ void tst_Translations::everyTextOfTheSourcesIsTranslated()
     }
 }
 
-void tst_Translations::translationsKeepPlaceholdersAndEdges_data()
+void tst_Translations::translationsKeepPlaceholdersAndLines_data()
 {
     addFiles(false);
 }
 
-void tst_Translations::translationsKeepPlaceholdersAndEdges()
+void tst_Translations::translationsKeepPlaceholdersAndLines()
 {
     for (const Message& message : upToDate()) {
         QVERIFY2(placeholders(message.translation) == placeholders(message.source),

@@ -12,6 +12,7 @@
 #include "widgets/VerifyDrag.h"
 
 #include <RkBaseUI/CRkBlockManagerWidget.h>
+#include <RkBaseUI/CRkCityDateFilterWidget.h>
 #include <RkBaseUI/CRkGraphicsProjectRectItem.h>
 #include <RkBaseUI/CRkGraphicsProjectTextItem.h>
 #include <RkBaseUI/CRkProjectManagerView.h>
@@ -119,6 +120,7 @@ private slots:
     void searchFieldHasTheFocusFirst();
     void returnKeyPressesNoButton();
     void toolBarLabelsShowTheirGround();
+    void longConditionsKeepTheToolBar();
 
     void pages();
     void buttonVisibility();
@@ -296,6 +298,32 @@ void tst_CRkProjectManagerDialog::toolBarLabelsShowTheirGround()
     QCOMPARE(ground("m_pLblDate"), navy);
     dialog.openProject();
     QCOMPARE(ground("labelProjectNameOpeningBlocks"), navy);
+}
+
+void tst_CRkProjectManagerDialog::longConditionsKeepTheToolBar()
+{
+    Dialog dialog(nullptr);
+    dialog.show();
+    auto& bar = dialog.part<CRkCityDateFilterWidget>("m_pCityDateSelectWidget");
+    const auto places = [&] {
+        QCoreApplication::processEvents();
+        QList<QRect> areas;
+        for (const char* const name :
+             {"pushButtonNewProject", "m_pCopyProjectBtn", "m_pDeleteProjectBtn",
+              "m_pCityDateSelectWidget", "lineEditSearch", "pushButtonSearch", "m_pBtnDateSelect"})
+            areas.append(dialog.getProjectManagerWidget()->findChild<QWidget*>(name)->geometry());
+        return areas;
+    };
+    const QList<QRect> before = places();
+    bar.slotCitySelected(QString(5000, 'n'));
+    bar.slotDateSelected("2026-06-01 to 2026-06-15");
+    QCOMPARE(places(), before);
+    QCOMPARE(dialog.size(), QSize(960, 600));
+    // The place alone gives way.
+    const auto& city = dialog.part<QLabel>("m_pLblCity");
+    const auto& date = dialog.part<QLabel>("m_pLblDate");
+    QVERIFY(date.width() >= date.sizeHint().width());
+    QVERIFY(city.geometry().right() < dialog.button("m_pBtnCitySelect").x());
 }
 
 void tst_CRkProjectManagerDialog::returnKeyPressesNoButton()
