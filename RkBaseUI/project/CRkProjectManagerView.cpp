@@ -87,7 +87,18 @@ CRkProjectManagerView::~CRkProjectManagerView()
 
 void CRkProjectManagerView::ResetItemPos()
 {
-    _placeTilesFrom(0);
+    if (m_visibleTiles.isEmpty()) {
+        setSceneRect(0, 0, m_scene->sceneRect().width(), 0); // Nothing to scroll to.
+        return;
+    }
+    // When all is to be painted anew, tiles need not tell what they leave and what they cover.
+    m_scene->update();
+    const int last = m_visibleTiles.size() - 1;
+    for (int i = 0; i < last; ++i)
+        m_visibleTiles[i]->setPos(TileGrid::position(i, rect().width()));
+    // Scene and scroll bar follow the last tile alone: a shorter scene in between would take the
+    // scroll bar away and, with it, lay out everything once more.
+    m_visibleTiles[last]->setPos(_calculateProjectItemPos(last));
 }
 
 void CRkProjectManagerView::slotNewProject()
@@ -128,7 +139,7 @@ void CRkProjectManagerView::slotDeleteProject()
         return;
     if (!WarningBox::confirm(tr("Delete Project"),
                              tr("confirm delete \"") + tile->GetProjectName() + tr("\"?"))
-        || !alive)
+        || !alive || !m_tiles.contains(tile)) // The host may have deleted it meanwhile.
         return;
     if (!QFile::remove(tile->GetProjectFilePath())) {
         WarningBox::show(tr("File In Use"),
@@ -136,12 +147,12 @@ void CRkProjectManagerView::slotDeleteProject()
                             "application.Close the file and try again."));
         return;
     }
-    m_scene->removeItem(tile);
+    if (tile->scene()) // A filter set meanwhile may have hidden it.
+        m_scene->removeItem(tile);
     m_tiles.removeOne(tile);
-    const int index = m_visibleTiles.indexOf(tile);
     m_visibleTiles.removeOne(tile);
     tile->deleteLater();
-    _placeTilesFrom(qMax(index, 0)); // A filter set meanwhile may have hidden it.
+    ResetItemPos();
 }
 
 void CRkProjectManagerView::slotFilterConditionChanged(const QString& cityCondition,
@@ -363,22 +374,6 @@ void CRkProjectManagerView::_addTile(CRkGraphicsProjectRectItem* tile, const Pro
     m_tiles.append(tile);
     m_visibleTiles.append(tile);
     verticalScrollBar()->setValue(verticalScrollBar()->maximum());
-}
-
-void CRkProjectManagerView::_placeTilesFrom(int first)
-{
-    if (m_visibleTiles.isEmpty()) {
-        setSceneRect(0, 0, m_scene->sceneRect().width(), 0); // Nothing to scroll to.
-        return;
-    }
-    // When all is to be painted anew, tiles need not tell what they leave and what they cover.
-    m_scene->update();
-    const int last = m_visibleTiles.size() - 1;
-    for (int i = first; i < last; ++i)
-        m_visibleTiles[i]->setPos(TileGrid::position(i, rect().width()));
-    // Scene and scroll bar follow the last tile alone: a shorter scene in between would take the
-    // scroll bar away and, with it, lay out everything once more.
-    m_visibleTiles[last]->setPos(_calculateProjectItemPos(last));
 }
 
 QPoint CRkProjectManagerView::_calculateProjectItemPos(int index)

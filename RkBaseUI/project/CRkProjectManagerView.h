@@ -94,7 +94,6 @@ private:
 
     void _addTile(CRkGraphicsProjectRectItem* tile, const ProjectRecord& project,
                   const QPixmap& pixmap);
-    void _placeTilesFrom(int first);
     QPoint _calculateProjectItemPos(int index);
     void _open(const CRkGraphicsProjectRectItem* tile);
     /// A caption that is being edited renames its project.

@@ -41,10 +41,17 @@ Place placeBelow(const QString& start, const QString& name, const QString& suffi
     return {folder, folder + name + suffix};
 }
 
-bool isBelowRoot(const QString& folder)
+bool isBelowRoot(const QString& path)
 {
     const QString clean = QDir::cleanPath(root());
-    return QDir::cleanPath(folder).startsWith(clean + QLatin1Char('/'));
+    return QDir::cleanPath(path).startsWith(clean + QLatin1Char('/'));
+}
+
+/// The name stands twice in the path of the file, so that the file may lead out of the root where
+/// the folder does not.
+bool isBelowRoot(const Place& place)
+{
+    return isBelowRoot(place.folder) && isBelowRoot(place.file);
 }
 
 void makeFolder(const QString& folder)
@@ -134,7 +141,7 @@ QString prepare(const QString& name)
 QString copy(const QString& projectFile, const QString& newName)
 {
     const Place place = placeBelow(root() + QLatin1Char('/'), newName, QStringLiteral(".proj"));
-    if (!isBelowRoot(place.folder))
+    if (!isBelowRoot(place))
         return {};
     makeFolder(place.folder);
     if (!QFile::copy(projectFile, place.file)) {
@@ -148,7 +155,7 @@ QString rename(const QString& projectFile, const QString& newName,
                const std::function<void()>& onFailure)
 {
     const Place place = placeBelow(root(), newName, QStringLiteral(".proj"));
-    if (!isBelowRoot(place.folder)) {
+    if (!isBelowRoot(place)) {
         onFailure();
         return {};
     }

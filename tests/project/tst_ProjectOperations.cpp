@@ -6,7 +6,9 @@
 #include "ProjectFixture.h"
 #include "support/BoxAnswerer.h"
 #include "support/Brackets.h"
+#include "support/MessageLog.h"
 #include "support/TestSupport.h"
+#include "support/WindowWaits.h"
 
 #include <RkAlgorthm/RkAlgorthm.h>
 #include <RkBaseUI/CRkGraphicsProjectImageItem.h>
@@ -80,6 +82,23 @@ void rename(const CRkProjectManagerView& view, const QString& name, const QStrin
     emit tile->GetTextItem()->editFinished(newName);
 }
 
+QList<QPointF> positionsOf(const QList<Tile*>& tiles)
+{
+    QList<QPointF> positions;
+    for (const Tile* tile : tiles)
+        positions.append(tile->pos());
+    return positions;
+}
+
+/// Where so many tiles stand in so many columns.
+QList<QPointF> placesOf(int count, int columns)
+{
+    QList<QPointF> places;
+    for (int i = 0; i < count; ++i)
+        places.append(QPointF(i % columns * 210 + 32, i / columns * 220));
+    return places;
+}
+
 /// Every file and folder below the root with the content of the files.
 QMap<QString, QByteArray> content(const QString& root)
 {
@@ -125,6 +144,9 @@ private slots:
     void copyOfAMissingFile();
     void copyOfANameWithAQuote_data();
     void copyOfANameWithAQuote();
+    void copyOfAnOddName_data();
+    void copyOfAnOddName();
+    void copyThatCannotBeOpened();
     void copyIsScrolledTo();
 
     void deleteNeedsASelection();
@@ -135,7 +157,11 @@ private slots:
     void deleteEndsEditingFirst();
     void deleteKeepsFolderAndCompanion();
     void deleteTheOnlyProject();
+    void deleteMovesTheOthersUp_data();
     void deleteMovesTheOthersUp();
+    void deleteAfterAHiddenResize();
+    void deleteWhatAFilterHidMeanwhile();
+    void deleteWhatWasDeletedMeanwhile();
     void deleteFileThatCannotBeRemoved();
     void deleteTileOfAnotherView();
 
@@ -148,6 +174,7 @@ private slots:
     void renameOntoAnotherProject();
     void renameOntoItself();
     void renameToAnotherCase();
+    void renameWhenTheCompanionCannotMove_data();
     void renameWhenTheCompanionCannotMove();
     void renameThatCannotBeTakenBack();
     void renameOfAMissingFile();
@@ -155,8 +182,10 @@ private slots:
     void renameToOddNames_data();
     void renameToOddNames();
     void renameToANameThatIsAStatement();
+    void renameToAPathThatCannotBeOpened();
     void renameOutOfTheRoot_data();
     void renameOutOfTheRoot();
+    void renameOutOfTheRootByTheFileAlone();
     void renameOnceOnly();
 
     void viewThatGoesDuringAMessage_data();
@@ -169,6 +198,9 @@ private slots:
     void messagesAreTranslated();
 
 private:
+    /// A name whose project file has a path of so many bytes, or of one less.
+    QString nameWithPathOf(int bytes) const;
+
     std::unique_ptr<TestHome> m_home;
     std::unique_ptr<BoxAnswerer> m_answers;
     QString m_root;
@@ -186,6 +218,11 @@ void tst_ProjectOperations::cleanup()
 {
     m_answers.reset();
     m_home.reset();
+}
+
+QString tst_ProjectOperations::nameWithPathOf(int bytes) const
+{
+    return QString((bytes - m_root.size() - int(qstrlen("/.proj"))) / 2, 'n');
 }
 
 void tst_ProjectOperations::newProject()
@@ -461,6 +498,54 @@ void tst_ProjectOperations::copyOfANameWithAQuote()
             != readSql(source, "select id from " + ProjectTableName));
 }
 
+void tst_ProjectOperations::copyOfAnOddName_data()
+{
+    QTest::addColumn<QString>("name");
+    QTest::newRow("double quote") << "\"Hill\"";
+    QTest::newRow("per cent") << "100%";
+    QTest::newRow("marker") << "Hill %1 %2";
+    QTest::newRow("newline") << "Hill\nDale";
+    QTest::newRow("emoji") << QString::fromUtf8("山丘 🛩");
+    QTest::newRow("backslash") << "Hill\\Dale";
+    QTest::newRow("leading dot") << ".Hill";
+}
+
+void tst_ProjectOperations::copyOfAnOddName()
+{
+    QFETCH(QString, name);
+    const QString source = ProjectFixture{"Hill"}.write(m_root);
+    QVERIFY(runSql(source, {"UPDATE " + ProjectTableName + " SET project_name='" + name + "'"}));
+    const QByteArray before = readFile(source);
+    CRkProjectManagerView view(nullptr);
+    QVERIFY(select(view, name));
+    view.slotCopyProject();
+    const QString copyName = "copy of " + name;
+    QStringList names = {copyName, name};
+    names.sort();
+    QCOMPARE(sortedNamesOf(CRkProjectManagerView(nullptr)), names);
+    QVERIFY(tileNamed(view, copyName));
+    QVERIFY(QFileInfo::exists(m_root + copyName + '/' + copyName + ".proj"));
+    QCOMPARE(readFile(source), before);
+    QVERIFY(m_answers->boxes.isEmpty());
+}
+
+void tst_ProjectOperations::copyThatCannotBeOpened()
+{
+    // SQLite opens no path of more than 504 bytes, and the copy's is longer than the original's.
+    const QString name = nameWithPathOf(500);
+    const QString source = ProjectFixture{name}.write(m_root);
+    QVERIFY(!source.isEmpty());
+    CRkProjectManagerView view(nullptr);
+    QSignalSpy copied(&view, &CRkProjectManagerView::projectCopied);
+    QVERIFY(select(view, name));
+    view.slotCopyProject();
+    QCOMPARE(copied.count(), 0);
+    QCOMPARE(sortedNamesOf(view), QStringList{name});
+    const QString file = m_root + "copy of " + name + "/copy of " + name + ".proj";
+    QVERIFY2(readFile(file) == readFile(source), "the copy stays as it is");
+    QVERIFY(m_answers->boxes.isEmpty());
+}
+
 void tst_ProjectOperations::copyIsScrolledTo()
 {
     for (const char* name : {"A", "B", "C", "D"})
@@ -592,18 +677,87 @@ void tst_ProjectOperations::deleteTheOnlyProject()
     QVERIFY(tilesOf(view).isEmpty());
 }
 
+void tst_ProjectOperations::deleteMovesTheOthersUp_data()
+{
+    QTest::addColumn<int>("deleted");
+    QTest::newRow("first") << 0;
+    QTest::newRow("in the middle of a row") << 4;
+    QTest::newRow("at the end of a row") << 2;
+    QTest::newRow("last, alone in its row") << 6;
+}
+
 void tst_ProjectOperations::deleteMovesTheOthersUp()
+{
+    QFETCH(int, deleted);
+    for (const char* name : {"A", "B", "C", "D", "E", "F", "G"})
+        ProjectFixture{name}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    view.resize(640, 400);
+    view.show();
+    QVERIFY(comesOnScreen(&view));
+    QList<Tile*> tiles = tilesOf(view);
+    QCOMPARE(view.sceneRect().height(), 2 * 220.0 + 363);
+    tiles.takeAt(deleted)->setSelected(true);
+    view.slotDeleteProject();
+    QCOMPARE(tilesOf(view).size(), 6);
+    QCOMPARE(positionsOf(tiles), placesOf(6, 3));
+    QCOMPARE(view.sceneRect().height(), 220.0 + 363);
+    QCOMPARE(view.verticalScrollBar()->value(), view.verticalScrollBar()->maximum());
+    QVERIFY(view.verticalScrollBar()->maximum() > 0);
+}
+
+void tst_ProjectOperations::deleteAfterAHiddenResize()
+{
+    // A view that is not shown hears of its new size later, but lays out the tiles for it.
+    for (const char* name : {"A", "B", "C", "D", "E"})
+        ProjectFixture{name}.write(m_root);
+    QWidget parent;
+    parent.resize(640, 400);
+    CRkProjectManagerView view(&parent);
+    QList<Tile*> tiles = tilesOf(view);
+    QCOMPARE(positionsOf(tiles), placesOf(5, 3));
+    view.resize(430, 400);
+    tiles.takeLast()->setSelected(true);
+    view.slotDeleteProject();
+    QCOMPARE(positionsOf(tiles), placesOf(4, 2));
+}
+
+void tst_ProjectOperations::deleteWhatAFilterHidMeanwhile()
 {
     for (const char* name : {"A", "B", "C"})
         ProjectFixture{name}.write(m_root);
     CRkProjectManagerView view(nullptr);
-    view.resize(660, 400);
-    QList<Tile*> tiles = tilesOf(view);
-    QCOMPARE(tiles.size(), 3);
-    tiles[0]->setSelected(true);
+    view.resize(640, 400);
+    QVERIFY(select(view, "A"));
+    m_answers->beforeAnswer = [&view] { view.slotFilterConditionChanged({}, {}, {}, "C"); };
+    MessageLog log;
+    log.start();
     view.slotDeleteProject();
-    QCOMPARE(tiles[1]->pos(), QPointF(32, 0));
-    QCOMPARE(tiles[2]->pos(), QPointF(242, 0));
+    QCOMPARE(log.stop(), QStringList());
+    QCOMPARE(sortedNamesOf(view), QStringList{"C"});
+    QCOMPARE(positionsOf(tilesOf(view)), placesOf(1, 3));
+    view.slotFilterConditionChanged({}, {}, {}, {});
+    QCOMPARE(sortedNamesOf(view), QStringList({"B", "C"}));
+    QCOMPARE(positionsOf(tilesOf(view)), placesOf(2, 3));
+}
+
+void tst_ProjectOperations::deleteWhatWasDeletedMeanwhile()
+{
+    ProjectFixture{"A"}.write(m_root);
+    ProjectFixture{"B"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    const QPointer<Tile> tile = tileNamed(view, "A");
+    QVERIFY(select(view, "A"));
+    // The host deletes it while the user is still asked.
+    m_answers->beforeAnswer = [&] {
+        m_answers->beforeAnswer = nullptr;
+        view.slotDeleteProject();
+    };
+    view.slotDeleteProject();
+    QCOMPARE(m_answers->texts(), QStringList({"confirm delete \"A\"?", "confirm delete \"A\"?"}));
+    QCOMPARE(sortedNamesOf(view), QStringList{"B"});
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(!tile);
 }
 
 void tst_ProjectOperations::deleteFileThatCannotBeRemoved()
@@ -739,7 +893,8 @@ void tst_ProjectOperations::renameToNothing()
 
 void tst_ProjectOperations::renameOntoAnotherProject()
 {
-    ProjectFixture{"Hill"}.write(m_root);
+    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    QVERIFY(writeFile(CRkControl::GetInstance()->GetFlightMissionFilePath(file), "flights"));
     ProjectFixture{"Dale"}.write(m_root);
     const auto before = content(m_root);
     CRkProjectManagerView view(nullptr);
@@ -762,7 +917,8 @@ void tst_ProjectOperations::renameOntoAnotherProject()
 
 void tst_ProjectOperations::renameOntoItself()
 {
-    ProjectFixture{"Hill"}.write(m_root);
+    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    QVERIFY(writeFile(CRkControl::GetInstance()->GetFlightMissionFilePath(file), "flights"));
     const auto before = content(m_root);
     CRkProjectManagerView view(nullptr);
     rename(view, "Hill", "Hill");
@@ -773,28 +929,43 @@ void tst_ProjectOperations::renameOntoItself()
 
 void tst_ProjectOperations::renameToAnotherCase()
 {
-    ProjectFixture{"Hill"}.write(m_root);
+    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    QVERIFY(writeFile(CRkControl::GetInstance()->GetFlightMissionFilePath(file), "flights"));
     CRkProjectManagerView view(nullptr);
     rename(view, "Hill", "hill");
+    QVERIFY(m_answers->boxes.isEmpty());
+    QCOMPARE(readFile(m_root + "hill/hill_flight.db"), QByteArray("flights"));
     QCOMPARE(sortedNamesOf(view), QStringList{"hill"});
     QCOMPARE(sortedNamesOf(CRkProjectManagerView(nullptr)), QStringList{"hill"});
 }
 
+void tst_ProjectOperations::renameWhenTheCompanionCannotMove_data()
+{
+    QTest::addColumn<QString>("newName");
+    QTest::newRow("another stands there") << "Dale";
+    QTest::newRow("too long for the companion alone") << QString(248, 'n');
+}
+
 void tst_ProjectOperations::renameWhenTheCompanionCannotMove()
 {
+    QFETCH(QString, newName);
     const QString file = ProjectFixture{"Hill"}.write(m_root);
     QVERIFY(writeFile(CRkControl::GetInstance()->GetFlightMissionFilePath(file), "flights"));
     QVERIFY(writeFile(m_root + "Dale/Dale_flight.db", "flights of a deleted project"));
     const auto before = content(m_root);
     CRkProjectManagerView view(nullptr);
     QSignalSpy renamed(&view, &CRkProjectManagerView::projectRenamed);
-    rename(view, "Hill", "Dale");
+    Tile* tile = tileNamed(view, "Hill");
+    tile->GetTextItem()->SetPrjName(newName); // As the caption does before it sends its signal.
+    rename(view, "Hill", newName);
     QCOMPARE(m_answers->boxes.size(), 1);
     QCOMPARE(m_answers->boxes.first().title, QString("Rename Project"));
     QCOMPARE(m_answers->boxes.first().text, inUseText);
     QCOMPARE(content(m_root), before);
     QCOMPARE(renamed.count(), 0);
-    QCOMPARE(tileNamed(view, "Hill")->GetProjectFilePath(), file);
+    QCOMPARE(tile->GetProjectName(), QString("Hill"));
+    QCOMPARE(tile->GetProjectFilePath(), file);
+    QCOMPARE(tile->GetTextItem()->GetPrjName(), QString("Hill"));
 }
 
 void tst_ProjectOperations::renameThatCannotBeTakenBack()
@@ -883,7 +1054,10 @@ void tst_ProjectOperations::renameToOddNames()
     QVERIFY(!QFileInfo::exists(file));
     const QString renamed = m_root + newName + '/' + newName + ".proj";
     QCOMPARE(tile->GetProjectFilePath(), renamed);
-    QCOMPARE(readSql(renamed, "select count(*) from " + ProjectTableName), QStringList{"1"});
+    QCOMPARE(tile->GetProjectName(), newName);
+    const QString nameInRow = newName.contains('\'') ? QString("Hill") : newName;
+    QCOMPARE(readSql(renamed, "select project_name from " + ProjectTableName),
+             QStringList{nameInRow});
 }
 
 void tst_ProjectOperations::renameToANameThatIsAStatement()
@@ -898,6 +1072,25 @@ void tst_ProjectOperations::renameToANameThatIsAStatement()
     QCOMPARE(readSql(file, "select user_id from " + ProjectTableName), QStringList{"user-1"});
     QCOMPARE(readSql(file, "select project_name from " + ProjectTableName), QStringList{"Hill"});
     QCOMPARE(readSql(file, "select version from " + ProjectTableName), QStringList{"2"});
+}
+
+void tst_ProjectOperations::renameToAPathThatCannotBeOpened()
+{
+    // The file can move there, but SQLite opens no path of more than 504 bytes.
+    const QString old = ProjectFixture{"Hill"}.write(m_root);
+    const QByteArray project = readFile(old);
+    CRkProjectManagerView view(nullptr);
+    QSignalSpy renamed(&view, &CRkProjectManagerView::projectRenamed);
+    const QString name = nameWithPathOf(506);
+    QVERIFY(name.size() < 250);
+    rename(view, "Hill", name);
+    QCOMPARE(renamed.count(), 1);
+    QVERIFY(m_answers->boxes.isEmpty());
+    QCOMPARE(readFile(m_root + name + '/' + name + ".proj"), project);
+    QCOMPARE(sortedNamesOf(CRkProjectManagerView(nullptr)), QStringList());
+    rename(view, name, "Dale");
+    QVERIFY(m_answers->boxes.isEmpty());
+    QCOMPARE(sortedNamesOf(CRkProjectManagerView(nullptr)), QStringList{"Dale"});
 }
 
 void tst_ProjectOperations::renameOutOfTheRoot_data()
@@ -919,6 +1112,21 @@ void tst_ProjectOperations::renameOutOfTheRoot()
     rename(view, "Hill", newName);
     QCOMPARE(m_answers->boxes.size(), 1);
     QCOMPARE(m_answers->boxes.first().text, inUseText);
+    QCOMPARE(content(m_home->path()), before);
+    QCOMPARE(sortedNamesOf(view), QStringList{"Hill"});
+}
+
+void tst_ProjectOperations::renameOutOfTheRootByTheFileAlone()
+{
+    // The folder of this name leads out of the root and back, and its file once more out of it.
+    const QString rootName = QDir(m_root).dirName();
+    const QString homeName = QDir(m_home->path()).dirName();
+    QVERIFY(QDir(m_home->path()).mkpath(homeName + '/' + rootName));
+    ProjectFixture{"Hill"}.write(m_root);
+    const auto before = content(m_home->path());
+    CRkProjectManagerView view(nullptr);
+    rename(view, "Hill", "../../" + homeName + '/' + rootName + "/Dale");
+    QCOMPARE(m_answers->texts(), QStringList{inUseText});
     QCOMPARE(content(m_home->path()), before);
     QCOMPARE(sortedNamesOf(view), QStringList{"Hill"});
 }
@@ -948,15 +1156,15 @@ void tst_ProjectOperations::viewThatGoesDuringAMessage_data()
     QTest::addColumn<QStringList>("projects");
     using View = CRkProjectManagerView;
     const auto row = [](const char* name, const std::function<void(View&)>& action,
-                        const QStringList& projects) {
-        QTest::newRow(name) << action << projects;
-    };
+                        const QStringList& projects) { QTest::newRow(name) << action << projects; };
     row("copy nothing", [](View& view) { view.slotCopyProject(); }, {"Dale", "Hill"});
     row("delete nothing", [](View& view) { view.slotDeleteProject(); }, {"Dale", "Hill"});
-    row("delete", [](View& view) {
-        select(view, "Hill");
-        view.slotDeleteProject();
-    }, {"Dale", "Hill"});
+    row("delete",
+        [](View& view) {
+            select(view, "Hill");
+            view.slotDeleteProject();
+        },
+        {"Dale", "Hill"});
     row("rename to nothing", [](View& view) { rename(view, "Hill", " "); }, {"Dale", "Hill"});
     row("rename onto another", [](View& view) { rename(view, "Hill", "Dale"); }, {"Dale", "Hill"});
 }

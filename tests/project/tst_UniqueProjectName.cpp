@@ -7,6 +7,10 @@
 #include <QRandomGenerator>
 #include <QtTest>
 
+#include <algorithm>
+#include <optional>
+#include <vector>
+
 namespace {
 
 using UniqueProjectName::FileExists;
@@ -24,13 +28,18 @@ bool everyFileExists(const QString& /*file*/)
 /// The definition word for word: the walk begins anew after every candidate.
 QString literalName(const QString& base, const QStringList& files, const FileExists& fileExists)
 {
+    std::vector<std::optional<QString>> names; // Nothing for a missing file.
+    for (const QString& file : files) {
+        names.push_back(fileExists(file) ? std::make_optional(QFileInfo(file).completeBaseName())
+                                         : std::nullopt);
+    }
     QString candidate = base;
     const QString pattern = candidate + "_%1";
     int number = 1;
-    for (int i = 0; i < files.size();) {
-        if (!fileExists(files[i]))
+    for (std::size_t i = 0; i < names.size();) {
+        if (!names[i])
             return candidate;
-        if (QFileInfo(files[i]).completeBaseName() == candidate) {
+        if (names[i] == candidate) {
             candidate = pattern.arg(number++);
             i = 0;
         } else {
@@ -51,6 +60,7 @@ private slots:
     void make();
     void onlyFilesBeforeAMissingOneCount();
     void sameAsTheLiteralWalk();
+    void thousandsOfEqualNames_data();
     void thousandsOfEqualNames();
     void isTaken();
 };
@@ -112,15 +122,42 @@ void tst_UniqueProjectName::sameAsTheLiteralWalk()
     }
 }
 
+void tst_UniqueProjectName::thousandsOfEqualNames_data()
+{
+    QTest::addColumn<bool>("isShuffled");
+    QTest::addColumn<int>("missing");
+    QTest::newRow("in the order of their making") << false << -1;
+    QTest::newRow("in the order of their making, one missing") << false << 1234;
+    QTest::newRow("shuffled") << true << -1;
+    QTest::newRow("shuffled, one missing") << true << 1234;
+}
+
 void tst_UniqueProjectName::thousandsOfEqualNames()
 {
-    QStringList files = {fileOf("Hill")};
-    for (int i = 1; i < 20000; ++i)
-        files.append(fileOf(QString("Hill_%1").arg(i)));
+    QFETCH(bool, isShuffled);
+    QFETCH(int, missing);
+    constexpr int count = 5000;
+    QStringList names = {"New Project"};
+    for (int i = 1; i < count; ++i)
+        names.append(QString("New Project_%1").arg(i));
+    if (isShuffled) {
+        QRandomGenerator random(20261121);
+        std::shuffle(names.begin(), names.end(), random);
+    }
+    QStringList files;
+    for (const QString& name : qAsConst(names))
+        files.append(fileOf(name));
+    const FileExists fileExists = [&](const QString& file) {
+        return missing < 0 || file != files[missing];
+    };
     int looks = 0;
-    const FileExists countingLooks = [&](const QString&) { return ++looks > 0; };
-    QCOMPARE(UniqueProjectName::make("Hill", files, countingLooks), QString("Hill_20000"));
-    QCOMPARE(looks, 20000);
+    const FileExists countingLooks = [&](const QString& file) {
+        ++looks;
+        return fileExists(file);
+    };
+    QCOMPARE(UniqueProjectName::make("New Project", files, countingLooks),
+             literalName("New Project", files, fileExists));
+    QCOMPARE(looks, missing < 0 ? count : missing + 1);
 }
 
 void tst_UniqueProjectName::isTaken()
