@@ -13,6 +13,7 @@
 #include <QCoreApplication>
 #include <QDeadlineTimer>
 #include <QKeyEvent>
+#include <QListWidget>
 #include <QMouseEvent>
 #include <QPushButton>
 #include <QToolButton>
@@ -78,8 +79,9 @@ void showNoService(QWidget& window)
 
 void showPicked(QWidget& window)
 {
-    boxOf(window).setKeyword(keyword);
-    mapOf(window).places()->showPlace(somePlaces().at(1));
+    showPlaces(window);
+    auto* list = boxOf(window).findChild<QListWidget*>();
+    emit list->itemClicked(list->item(1));
     waitForRest(mapOf(window));
 }
 

@@ -158,6 +158,7 @@ void MapPanel::glideTo(const MapView& view)
         return;
     }
     m_glide.stop();
+    m_isPlaced = true;
     m_glideStart = m_view;
     m_glideGoal = allowed(view);
     m_glide.start();
@@ -171,9 +172,21 @@ MapView MapPanel::viewOf(const QRectF& area, double margin) const
                         area.isNull() ? countryMargin : margin);
 }
 
+MapView MapPanel::blockView() const
+{
+    return viewOf(m_blocks.openedExtent(), std::min(width(), height()) * 0.28);
+}
+
 void MapPanel::showBlock()
 {
-    glideTo(viewOf(m_blocks.openedExtent(), std::min(width(), height()) * 0.28));
+    glideTo(blockView());
+}
+
+void MapPanel::bringBlockIntoSight()
+{
+    const QRectF block = m_blocks.openedExtent();
+    const bool isInSight = block.isNull() || goal().extent().contains(block);
+    setView(isInSight ? goal() : blockView());
 }
 
 void MapPanel::showProject()

@@ -45,6 +45,10 @@ public:
     /// What the corner says of the place under the cursor; empty when the cursor is elsewhere.
     QString coordinates() const;
 
+    /// At once, with the map at rest: the opened block with its surroundings, unless the whole of
+    /// it is in sight already.
+    void bringBlockIntoSight();
+
     /// What the map shows, in the pixels of the screen, without what lies on it to be pressed.
     QImage picture();
 
@@ -81,6 +85,7 @@ private:
     void glideTo(const MapView& goal);
     void zoom(double factor, const QPointF& fixed);
     MapView viewOf(const QRectF& area, double margin) const;
+    MapView blockView() const;
     MapView allowed(const MapView& view) const;
     /// The view that the map will have when it comes to rest.
     const MapView& goal() const;

@@ -185,6 +185,7 @@ void OutlinePlate::fitLines()
 {
     const QMargins margins = layout()->contentsMargins();
     const int free = width() - margins.left() - margins.right() - 2 * frameWidth();
+    m_lines->setMinimumHeight(0); // The label never asks for less than that.
     m_lines->setFixedHeight(std::max(0, m_lines->heightForWidth(free)));
     layout()->invalidate();
     setFixedHeight(layout()->totalHeightForWidth(width()));

@@ -71,6 +71,7 @@ void ProjectUploads::applyForLift()
     const QString blockId = m_panel->blockId();
     const QString name = m_panel->blockName();
     CRkNoflyApplyWgt form(blockId, {blockId}, nullptr);
+    m_map->bringBlockIntoSight(); // The application is about nothing else.
     form.SetScreenShotsImage(m_map->picture());
     if (runOverWindow(form) != 1)
         return;

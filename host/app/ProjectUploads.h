@@ -30,7 +30,7 @@ public Q_SLOTS:
     /// Shows the document of the opened project and sends it when the user says so.
     void uploadProject();
     /// Lets the user fill in an application for the opened block, and sends it with a picture of
-    /// the map.
+    /// the map, which is brought back to the block where it has gone elsewhere.
     void applyForLift();
 
 Q_SIGNALS:

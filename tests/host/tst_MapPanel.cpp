@@ -92,6 +92,11 @@ private slots:
     void init();
     void countryFillsThePanelAtFirst();
     void chosenViewOutlivesAResize();
+    void shownBlockOutlivesAResize_data();
+    void shownBlockOutlivesAResize();
+    void blockIsBroughtIntoSight_data();
+    void blockIsBroughtIntoSight();
+    void nothingToBringIntoSight();
     void mouseDragsTheMap();
     void otherButtonsDoNotDrag();
     void zoomLetsGo();
@@ -160,6 +165,63 @@ void tst_MapPanel::chosenViewOutlivesAResize()
     m_panel->resize(500, 400);
     QCOMPARE(m_panel->view().scale, 100'000.0);
     QVERIFY(near(onPanel(*m_panel, 30.66, 104.06), QPointF(250, 200)));
+}
+
+void tst_MapPanel::shownBlockOutlivesAResize_data()
+{
+    QTest::addColumn<bool>("isMoving");
+    QTest::newRow("at rest") << false;
+    QTest::newRow("on its way") << true;
+}
+
+void tst_MapPanel::shownBlockOutlivesAResize()
+{
+    QFETCH(bool, isMoving);
+    m_panel->setBlocks(twoBlocks());
+    m_panel->showBlock();
+    if (!isMoving)
+        QTRY_VERIFY(!m_panel->isMoving());
+    m_panel->resize(500, 400);
+    QVERIFY(near(onPanel(*m_panel, 30.665, 104.065), QPointF(250, 200), 0.5));
+    QVERIFY(m_panel->view().scale > 100'000);
+}
+
+void tst_MapPanel::blockIsBroughtIntoSight_data()
+{
+    QTest::addColumn<QPointF>("centre");
+    QTest::addColumn<double>("scale");
+    QTest::addColumn<bool>("isInSight");
+    QTest::newRow("in sight") << QPointF(30.665, 104.065) << 2e6 << true;
+    QTest::newRow("in a corner") << QPointF(30.72, 104.13) << 1e6 << true;
+    QTest::newRow("elsewhere") << QPointF(39.91, 116.4) << 2e6 << false;
+    QTest::newRow("half of it") << QPointF(30.66, 104.06) << 3e7 << false;
+}
+
+void tst_MapPanel::blockIsBroughtIntoSight()
+{
+    QFETCH(QPointF, centre);
+    QFETCH(double, scale);
+    QFETCH(bool, isInSight);
+    const QVector<MapBlocks::Block> blocks = twoBlocks();
+    m_panel->setBlocks(blocks);
+    MapView view = m_panel->view();
+    view.centre = MapProjection::toPlane(centre);
+    view.scale = scale;
+    m_panel->setView(view);
+    m_panel->bringBlockIntoSight();
+    QVERIFY(!m_panel->isMoving());
+    QCOMPARE(m_panel->view() == view, isInSight);
+    for (const QPointF& corner : blocks[1].outline)
+        QVERIFY(m_panel->rect().contains(onPanel(*m_panel, corner.x(), corner.y()).toPoint()));
+}
+
+void tst_MapPanel::nothingToBringIntoSight()
+{
+    m_panel->setBlocks({{QStringLiteral("No outline"), {}, false, true}});
+    m_panel->setView(m_panel->view().zoomed(9, middle));
+    const MapView view = m_panel->view();
+    m_panel->bringBlockIntoSight();
+    QVERIFY(m_panel->view() == view);
 }
 
 void tst_MapPanel::mouseDragsTheMap()

@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
 #include "app/BlockPanel.h"
+#include "app/MapPlaces.h"
 #include "app/ProjectUploads.h"
 #include "support/DialogSteps.h"
 #include "UploadFixture.h"
@@ -47,6 +48,7 @@ private slots:
 
     void applicationArrives();
     void pictureIsOfTheMapAlone();
+    void pictureShowsTheBlock();
     void dismissedFormSendsNothing();
     void liftOutcomes_data();
     void liftOutcomes();
@@ -103,6 +105,7 @@ void tst_NoFlyLift::pictureIsOfTheMapAlone()
 {
     m_fixture.openBlock();
     m_fixture.startService();
+    m_fixture.window->map()->showCountry(); // Not the picture of a map that is on its way.
     const QList<QWidget*> controls =
         m_fixture.window->map()->findChildren<QWidget*>(QString(), Qt::FindDirectChildrenOnly);
     const auto shown = [this] {
@@ -127,6 +130,23 @@ void tst_NoFlyLift::pictureIsOfTheMapAlone()
     QVERIFY(picture == bare);
 }
 
+void tst_NoFlyLift::pictureShowsTheBlock()
+{
+    m_fixture.openBlock();
+    MapPanel& map = *m_fixture.window->map();
+    const QImage ofTheBlock = map.picture();
+    map.places()->showHere(QPointF(-33.9, 18.4));
+    QTRY_VERIFY(!map.isMoving());
+    QImage sent;
+    const DialogSteps steps({[&](QDialog& form) {
+        sent = map.picture();
+        QTest::keyClick(&form, Qt::Key_Escape);
+    }});
+    click(*m_fixture.window, "applyForLift");
+    QCOMPARE(steps.left(), 0);
+    QVERIFY(sent == ofTheBlock);
+}
+
 void tst_NoFlyLift::dismissedFormSendsNothing()
 {
     m_fixture.openBlock();
@@ -144,6 +164,7 @@ void tst_NoFlyLift::liftOutcomes_data()
     QTest::addColumn<bool>("isTaken");
     QTest::newRow("none") << "" << true;
     QTest::newRow("delay") << "delay:100" << true;
+    QTest::newRow("trickle") << "trickle:1" << true;
     QTest::newRow("garbage, which is not looked at") << "garbage" << true;
     QTest::newRow("500") << "500" << false;
     QTest::newRow("cut") << "cut" << false;

@@ -53,6 +53,7 @@ private slots:
     void spaceAddsTheMiddle();
     void keysOfTheMapStillWork();
     void openOutlineIsNotChecked();
+    void plateIsAsHighAsItsLines();
     void checkColoursAndTells_data();
     void checkColoursAndTells();
     void changedOutlineIsUnchecked();
@@ -292,6 +293,17 @@ void tst_OutlineTool::openOutlineIsNotChecked()
     QVERIFY(!tool().lastCheck());
     tool().check();
     QVERIFY(!tool().lastCheck());
+}
+
+void tst_OutlineTool::plateIsAsHighAsItsLines()
+{
+    draw({}, false);
+    const int ofHint = tool().plate()->height();
+    tool().close();
+    QCOMPARE(text().count('\n'), 0);
+    QVERIFY(tool().plate()->height() < ofHint);
+    QTest::mouseClick(m_panel.get(), Qt::LeftButton, Qt::NoModifier, convex.first());
+    QCOMPARE(tool().plate()->height(), ofHint);
 }
 
 void tst_OutlineTool::checkColoursAndTells_data()

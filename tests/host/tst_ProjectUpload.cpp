@@ -206,6 +206,7 @@ void tst_ProjectUpload::uploadOutcomes_data()
     QTest::addColumn<int>("state");
     QTest::newRow("none") << "" << int(State::Done);
     QTest::newRow("delay") << "delay:100" << int(State::Done);
+    QTest::newRow("trickle") << "trickle:1" << int(State::Done);
     QTest::newRow("500") << "500" << int(State::Failed);
     QTest::newRow("garbage") << "garbage" << int(State::Failed);
     QTest::newRow("cut") << "cut" << int(State::Failed);
