@@ -3,6 +3,7 @@
 
 #include "project/ProjectFiles.h"
 
+#include "project/FolderPaths.h"
 #include "project/ProjectStoreSql.h"
 
 #include <RkAlgorthm/RkAlgorthm.h>
@@ -17,6 +18,12 @@
 #include <QSqlQuery>
 #include <QUuid>
 #include <QVariant>
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+
+#include <string>
+#endif
 
 namespace ProjectFiles {
 
@@ -43,8 +50,12 @@ Place placeBelow(const QString& start, const QString& name, const QString& suffi
 
 bool isBelowRoot(const QString& path)
 {
-    const QString clean = QDir::cleanPath(root());
-    return QDir::cleanPath(path).startsWith(clean + QLatin1Char('/'));
+    const QString behindRoot = FolderPaths::below(root(), path);
+#ifdef Q_OS_WIN
+    return !behindRoot.isEmpty() && FolderPaths::areWindowsFolders(behindRoot);
+#else
+    return !behindRoot.isEmpty();
+#endif
 }
 
 /// The name stands twice in the path of the file, so that the file may lead out of the root where
@@ -88,13 +99,31 @@ QStringList harmless(QStringList statements, const QString& newName)
     return statements;
 }
 
+/// The name by which SQLite opens the file. Windows takes a long one from it only in a form that
+/// says so.
+QString databaseName(const QString& file)
+{
+#ifdef Q_OS_WIN
+    const std::wstring path = QDir::toNativeSeparators(file).toStdWString();
+    std::wstring whole(GetFullPathNameW(path.c_str(), 0, nullptr, nullptr), L'\0');
+    whole.resize(GetFullPathNameW(path.c_str(), DWORD(whole.size()), whole.data(), nullptr));
+    constexpr std::size_t longest = MAX_PATH - 12; // Behind the name may follow "-journal".
+    if (whole.size() > longest) {
+        const QString name = QString::fromStdWString(whole);
+        return name.startsWith(QLatin1String(R"(\\)")) ? QLatin1String(R"(\\?\UNC)") + name.mid(1)
+                                                       : QLatin1String(R"(\\?\)") + name;
+    }
+#endif
+    return file;
+}
+
 bool rewriteIdentifiers(const QString& file, const QString& newName)
 {
     // The connection is closed in the end and stays in the toolkit's list under a name that no
     // other connection will ever have.
     QSqlDatabase database =
         QSqlDatabase::addDatabase(QStringLiteral("QSQLITE"), QUuid::createUuid().toString());
-    database.setDatabaseName(file);
+    database.setDatabaseName(databaseName(file));
     if (!database.open())
         return false;
     // In one transaction, so that a copy is never half another project.

@@ -4,6 +4,7 @@
 #include "app/GalleryWindows.h"
 #include "app/HostSettings.h"
 #include "app/HostWindow.h"
+#include "app/PrivateSettings.h"
 #include "samples/SampleProjects.h"
 
 #include <QApplication>
@@ -84,11 +85,11 @@ int runGallery(const Options& options)
     out.setCodec("UTF-8");
     errors.setCodec("UTF-8");
     const QTemporaryDir home;
-    if (!HostSettings::canUseFolder() || !home.isValid()) {
+    const PrivateSettings settings(home.path());
+    if (!settings.isValid() || !home.isValid()) {
         errors << "This system has no place for settings of the gallery's own." << Qt::endl;
         return 1;
     }
-    HostSettings::useFolder(home.path());
     HostSettings::setCurrentUser(sampleUserId());
     SampleOptions samples;
     samples.root = home.filePath(QStringLiteral("projects"));

@@ -29,7 +29,12 @@ void CRkBlockManager::AddBlock(CRkBlock* block)
         m_blocks[block->GetBlockID()].reset(block);
 }
 
+struct BlockClearing
+{
+    static void clear() { CRkBlockManager::instance().m_blocks.clear(); }
+};
+
 void ClearBlocks()
 {
-    CRkBlockManager::instance().m_blocks.clear();
+    BlockClearing::clear();
 }

@@ -33,7 +33,7 @@ private:
     CRkBlockManager();
     ~CRkBlockManager();
 
-    friend RKDATA_EXPORT void ClearBlocks();
+    friend struct BlockClearing;
 
     std::map<QString, std::unique_ptr<CRkBlock>> m_blocks;
 };

@@ -481,7 +481,7 @@ void tst_CRkCityDateFilterWidget::popupHangsUnderTheButton_data()
         row("middle", {800, 300});
         row("left edge", {0, 0});
         row("right edge", {1640, 100});
-        row("lower edge", {800, 1150});
+        row("lower edge", {800, 1120});
         row("partly off the screen", {-90, -10});
     }
 }
@@ -938,6 +938,10 @@ void tst_CRkCityDateFilterWidget::popupOnTheSecondScreen_data()
 void tst_CRkCityDateFilterWidget::popupOnTheSecondScreen()
 {
     QFETCH(bool, isCity);
+#ifdef Q_OS_WIN
+    if (QGuiApplication::screens().size() != 2)
+        QSKIP("A second screen cannot be made here");
+#endif
     if (!isOnTwoScreens())
         return;
     const QList<QScreen*> screens = QGuiApplication::screens();

@@ -4,6 +4,7 @@
 #include <RkBaseUI/CRkCitySelectWidget.h>
 
 #include "support/Brackets.h"
+#include "support/ProgramCopy.h"
 #include "support/TestSupport.h"
 #include "support/WindowWaits.h"
 #include "widgets/Render.h"
@@ -122,13 +123,14 @@ const char* const createTable =
 bool hasCatalogue(const QStringList& statements)
 {
     const QString mark = QStringLiteral("RK_TEST_INNER");
-    QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
+    QProcessEnvironment environment = ProgramCopy::environment();
     if (environment.contains(mark))
         return true;
     environment.insert(mark, QStringLiteral("1"));
     const QTemporaryDir folder;
-    const QString program = folder.filePath("picker");
-    const bool ready = QFile::copy(QCoreApplication::applicationFilePath(), program)
+    const QString program =
+        ProgramCopy::make(QStringLiteral("tst_CRkCitySelectWidget"), folder.path());
+    const bool ready = !program.isEmpty()
         && (statements.isEmpty() || runSql(folder.filePath("ChinaAdminiDstrict.db"), statements));
     QProcess inner;
     inner.setProcessEnvironment(environment);

@@ -3,6 +3,7 @@
 
 #include <RkBaseUI/RkCityCategory.h>
 
+#include "support/ProgramCopy.h"
 #include "support/TestSupport.h"
 
 #include <QCoreApplication>
@@ -34,8 +35,8 @@ class ProbedFolder
 {
 public:
     ProbedFolder()
+        : m_probe(ProgramCopy::make("city_probe", m_dir.path()))
     {
-        QFile::copy(QCoreApplication::applicationDirPath() + "/city_probe", path("city_probe"));
     }
 
     QString path(const QString& name) const { return m_dir.filePath(name); }
@@ -49,7 +50,8 @@ public:
     QJsonObject probe(const QStringList& questions = {}) const
     {
         QProcess process;
-        process.start(path("city_probe"), questions);
+        process.setProcessEnvironment(ProgramCopy::environment());
+        process.start(m_probe, questions);
         if (!process.waitForFinished(60000) || process.exitStatus() != QProcess::NormalExit
             || process.exitCode() != 0) {
             qWarning() << "the probe failed:" << process.errorString()
@@ -71,6 +73,7 @@ public:
 
 private:
     QTemporaryDir m_dir;
+    QString m_probe;
 };
 
 const char* const createTable =

@@ -7,6 +7,7 @@
 #include "terrain/SampleTerrain.h"
 
 #include <QTest>
+#include <QtMath>
 
 #include <algorithm>
 #include <cmath>

@@ -36,7 +36,7 @@ namespace {
 
 constexpr int searchLimit = 5000; // Milliseconds.
 constexpr int locationLimit = 3000;
-constexpr int tolerance = 200;
+constexpr int tolerance = 1000;
 
 } // namespace
 

@@ -500,6 +500,7 @@ void tst_SampleProjects::programListsAndWrites()
     QVERIFY(program.waitForFinished());
     QCOMPARE(program.exitCode(), 0);
     const QStringList lines = QString::fromUtf8(program.readAllStandardOutput())
+                                  .remove(QLatin1Char('\r'))
                                   .split(QLatin1Char('\n'), Qt::SkipEmptyParts);
     QCOMPARE(lines.size(), 6);
 

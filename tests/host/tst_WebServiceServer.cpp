@@ -536,7 +536,7 @@ void tst_WebServiceServer::stopDoesNotWaitForStalledRequests()
     QVERIFY(socket.waitForBytesWritten());
     QVERIFY(!socket.waitForReadyRead(100));
     server.stop();
-    QTRY_COMPARE(socket.state(), QAbstractSocket::UnconnectedState);
+    QVERIFY(socket.state() == QAbstractSocket::UnconnectedState || socket.waitForDisconnected());
 }
 
 void tst_WebServiceServer::programServesUntilItsInputEnds()

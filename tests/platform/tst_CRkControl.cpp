@@ -104,6 +104,21 @@ void tst_CRkControl::projectDirFromEnvironment_data()
                                     << "/tmp/p/";
     QTest::newRow("the root") << "/"
                               << "/";
+#ifdef Q_OS_WIN
+    QTest::newRow("backslashes") << "C:\\Survey data\\p"
+                                 << "C:/Survey data/p/";
+    QTest::newRow("trailing backslash") << "D:\\p\\"
+                                        << "D:/p/";
+    QTest::newRow("both separators") << "D:/a\\b"
+                                     << "D:/a/b/";
+    QTest::newRow("root of a drive") << "E:\\"
+                                     << "E:/";
+    QTest::newRow("share") << "\\\\server\\surveys"
+                           << "//server/surveys/";
+#else
+    QTest::newRow("backslash in a name") << "/tmp/a\\b"
+                                         << "/tmp/a\\b/";
+#endif
     QTest::newRow("blanks and other letters")
         << QStringLiteral("/tmp/a b/\u9879\u76ee") << QStringLiteral("/tmp/a b/\u9879\u76ee/");
 }
@@ -142,6 +157,15 @@ void tst_CRkControl::flightFile_data()
                                  << "/Hill_flight.db";
     QTest::newRow("no folder") << "Hill.proj"
                                << "Hill_flight.db";
+#ifdef Q_OS_WIN
+    QTest::newRow("backslashes") << "C:\\p\\Hill\\Hill.proj"
+                                 << "C:/p/Hill/Hill_flight.db";
+    QTest::newRow("share") << "\\\\server\\p\\Hill.proj"
+                           << "//server/p/Hill_flight.db";
+#else
+    QTest::newRow("backslash in a name") << "/p/a\\b.proj"
+                                         << "/p/a\\b_flight.db";
+#endif
 }
 
 void tst_CRkControl::flightFile()

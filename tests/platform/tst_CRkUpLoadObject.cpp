@@ -388,8 +388,9 @@ void tst_CRkUpLoadObject::deletedWithAPostUnderWay()
     PostServer service;
     service.behaviour = PostServer::Behaviour(behaviour);
     Upload upload;
-    upload.post(service.url(), QByteArray(32 * 1024 * 1024, 'x'));
-    if (service.behaviour == PostServer::KeepsSilent)
+    const bool isWhole = service.behaviour == PostServer::KeepsSilent;
+    upload.post(service.url(), QByteArray(isWhole ? 1024 : 32 * 1024 * 1024, 'x'));
+    if (isWhole)
         QTRY_COMPARE(service.requests.size(), 1);
     else
         QTRY_COMPARE(service.connections, 1);

@@ -8,13 +8,33 @@
 
 #include <QtTest>
 
+#include <memory>
+
 class tst_CurrentUser : public QObject
 {
     Q_OBJECT
 
 private slots:
+    void eachHomeHasSettingsOfItsOwn();
     void comesFromTheSettingsUntilSet();
 };
+
+void tst_CurrentUser::eachHomeHasSettingsOfItsOwn()
+{
+    auto home = std::make_unique<TestHome>();
+    QCOMPARE(GetCurUserInfo().strUserId, QString());
+    home->setCurrentUserId(QStringLiteral("user-1"));
+    QCOMPARE(GetCurUserInfo().strUserId, QStringLiteral("user-1"));
+
+    home = std::make_unique<TestHome>(); // The new one is there before the old one goes.
+    QCOMPARE(GetCurUserInfo().strUserId, QString());
+    home->setCurrentUserId(QStringLiteral("user-2"));
+    QCOMPARE(GetCurUserInfo().strUserId, QStringLiteral("user-2"));
+#ifdef Q_OS_WIN
+    home.reset();
+    QVERIFY(GetCurUserInfo().strUserId != QStringLiteral("user-2")); // Never the user's own.
+#endif
+}
 
 void tst_CurrentUser::comesFromTheSettingsUntilSet()
 {

@@ -27,6 +27,7 @@
 #include <QLineEdit>
 #include <QPointer>
 #include <QPushButton>
+#include <QScreen>
 #include <QSignalSpy>
 #include <QStackedWidget>
 #include <QTest>
@@ -381,9 +382,11 @@ void tst_CRkProjectManagerDialog::fullScreen()
     QVERIFY(dialog.isFullScreen());
     QVERIFY(button.isChecked());
     QCOMPARE(dialog.maximumSize(), QSize(960, 600));
-    QCOMPARE(dialog.size(), QSize(960, 600));
+    // Not every window system keeps to the limit here.
+    QVERIFY(dialog.size() == QSize(960, 600) || dialog.size() == dialog.screen()->size());
     QTest::mouseClick(&button, Qt::LeftButton);
     QVERIFY(!dialog.isFullScreen());
+    QTRY_COMPARE(dialog.size(), QSize(960, 600));
     QVERIFY(dialog.isVisible());
     QVERIFY(!button.isChecked());
 }

@@ -22,16 +22,29 @@
 #include <QFileInfo>
 #include <QFontMetricsF>
 #include <QGraphicsScene>
+#include <QProcess>
+#include <QScopeGuard>
 #include <QScrollBar>
 #include <QSignalSpy>
 #include <QSqlDatabase>
 #include <QTest>
 
+#include <cstdio>
 #include <memory>
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
 
 namespace {
 
 using Tile = CRkGraphicsProjectRectItem;
+
+#ifdef Q_OS_WIN
+constexpr bool isWindows = true;
+#else
+constexpr bool isWindows = false;
+#endif
 
 const QString inUseText = QStringLiteral(
     "The action can't be completed because the file is open in other application or project name "
@@ -113,9 +126,107 @@ QMap<QString, QByteArray> content(const QString& root)
     return entries;
 }
 
+/// Has a file open while it lives.
+class Holder
+{
+public:
+    virtual ~Holder() = default;
+    virtual bool isHolding() const = 0;
+};
+
+class FileHolder : public Holder
+{
+public:
+    explicit FileHolder(const QString& file)
+        : m_file(file)
+    {
+        m_file.open(QIODevice::ReadOnly);
+    }
+    bool isHolding() const override { return m_file.isOpen(); }
+
+private:
+    QFile m_file;
+};
+
+class ConnectionHolder : public Holder
+{
+public:
+    explicit ConnectionHolder(const QString& file)
+        : m_database(file)
+        , m_isOpen(m_database.open() && m_database.exec("select * from sqlite_master").next())
+    {
+    }
+    bool isHolding() const override { return m_isOpen; }
+
+private:
+    CRkDataBase m_database;
+    bool m_isOpen;
+};
+
+const char* const holdOption = "--hold";
+
+/// This program once more, which holds the file until its input ends.
+class ProcessHolder : public Holder
+{
+public:
+    explicit ProcessHolder(const QString& file)
+    {
+        m_process.start(QCoreApplication::applicationFilePath(), {holdOption, file});
+        m_isHolding = m_process.waitForReadyRead();
+    }
+    ~ProcessHolder() override
+    {
+        m_process.closeWriteChannel();
+        m_process.waitForFinished();
+    }
+    bool isHolding() const override { return m_isHolding; }
+
+private:
+    QProcess m_process;
+    bool m_isHolding = false;
+};
+
+/// What the other process of a ProcessHolder does.
+int holdFile(const QString& path)
+{
+    const ConnectionHolder holder(path);
+    if (!holder.isHolding())
+        return 1;
+    std::puts("open");
+    std::fflush(stdout);
+    return std::getchar() == EOF ? 0 : 1;
+}
+
+using MakeHolder = std::unique_ptr<Holder> (*)(const QString& file);
+
+template <typename Kind>
+std::unique_ptr<Holder> makeHolder(const QString& file)
+{
+    return std::make_unique<Kind>(file);
+}
+
+void addHolders()
+{
+    QTest::addColumn<MakeHolder>("hold");
+    const auto row = [](const char* name, MakeHolder make) { QTest::newRow(name) << make; };
+    row("file", makeHolder<FileHolder>);
+    row("connection", makeHolder<ConnectionHolder>);
+    row("other process", makeHolder<ProcessHolder>);
+}
+
+/// Whether names that differ in case name the same file in the folder.
+bool ignoresCase(const QString& folder)
+{
+    const QString file = folder + "Case";
+    const bool isSame = writeFile(file, "") && QFileInfo::exists(folder + "cASE");
+    QFile::remove(file);
+    return isSame;
+}
+
 } // namespace
 
 Q_DECLARE_METATYPE(std::function<void(CRkProjectManagerView&)>)
+Q_DECLARE_METATYPE(MakeHolder)
 
 class tst_ProjectOperations : public QObject
 {
@@ -148,6 +259,7 @@ private slots:
     void copyOfAnOddName();
     void copyThatCannotBeOpened();
     void copyIsScrolledTo();
+    void copyOntoAnotherCase();
 
     void deleteNeedsASelection();
     void deleteAsksFirst_data();
@@ -164,6 +276,8 @@ private slots:
     void deleteWhatWasDeletedMeanwhile();
     void deleteFileThatCannotBeRemoved();
     void deleteTileOfAnotherView();
+    void deleteOfAnOpenFile_data() { addHolders(); }
+    void deleteOfAnOpenFile();
 
     void renameProject();
     void renameTakesTheCompanionAlong();
@@ -174,6 +288,11 @@ private slots:
     void renameOntoAnotherProject();
     void renameOntoItself();
     void renameToAnotherCase();
+    void renameOntoAnotherCase();
+    void renameOfAnOpenFile_data() { addHolders(); }
+    void renameOfAnOpenFile();
+    void renameOfAnOpenCompanion_data() { addHolders(); }
+    void renameOfAnOpenCompanion();
     void renameWhenTheCompanionCannotMove_data();
     void renameWhenTheCompanionCannotMove();
     void renameThatCannotBeTakenBack();
@@ -187,6 +306,10 @@ private slots:
     void renameOutOfTheRoot();
     void renameOutOfTheRootByTheFileAlone();
     void renameOnceOnly();
+
+    void longPaths();
+    void rootInTheSystemsForm();
+    void rootOfADrive();
 
     void viewThatGoesDuringAMessage_data();
     void viewThatGoesDuringAMessage();
@@ -559,6 +682,22 @@ void tst_ProjectOperations::copyIsScrolledTo()
     QCOMPARE(view.verticalScrollBar()->value(), view.verticalScrollBar()->maximum());
 }
 
+void tst_ProjectOperations::copyOntoAnotherCase()
+{
+    ProjectFixture{"Hill"}.write(m_root);
+    QVERIFY(!ProjectFixture{"COPY of hill"}.write(m_root).isEmpty());
+    const auto before = content(m_root);
+    CRkProjectManagerView view(nullptr);
+    QVERIFY(select(view, "Hill"));
+    view.slotCopyProject();
+    // Names that differ in case count as different ones, and then the file is there already.
+    if (ignoresCase(m_root))
+        QCOMPARE(content(m_root), before);
+    else
+        QVERIFY(QFileInfo::exists(m_root + "copy of Hill/copy of Hill.proj"));
+    QVERIFY(m_answers->boxes.isEmpty());
+}
+
 void tst_ProjectOperations::deleteNeedsASelection()
 {
     const QString file = ProjectFixture{"Hill"}.write(m_root);
@@ -794,6 +933,32 @@ void tst_ProjectOperations::deleteTileOfAnotherView()
     QVERIFY(QFileInfo::exists(file));
 }
 
+void tst_ProjectOperations::deleteOfAnOpenFile()
+{
+    QFETCH(MakeHolder, hold);
+    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    const auto before = content(m_root);
+    CRkProjectManagerView view(nullptr);
+    QVERIFY(select(view, "Hill"));
+    {
+        const std::unique_ptr<Holder> holder = hold(file);
+        QVERIFY(holder->isHolding());
+        view.slotDeleteProject();
+    }
+    if (isWindows) {
+        QCOMPARE(m_answers->boxes.size(), 2);
+        QCOMPARE(m_answers->boxes.last().title, QString("File In Use"));
+        QCOMPARE(m_answers->boxes.last().text,
+                 QString("The action can't be completed because the file is open in other "
+                         "application.Close the file and try again."));
+        QCOMPARE(sortedNamesOf(view), QStringList{"Hill"});
+        QCOMPARE(content(m_root), before);
+        view.slotDeleteProject(); // The file is closed now.
+    }
+    QVERIFY(!QFileInfo::exists(file));
+    QVERIFY(tilesOf(view).isEmpty());
+}
+
 void tst_ProjectOperations::renameProject()
 {
     ProjectFixture{"Hill"}.write(m_root);
@@ -934,9 +1099,85 @@ void tst_ProjectOperations::renameToAnotherCase()
     CRkProjectManagerView view(nullptr);
     rename(view, "Hill", "hill");
     QVERIFY(m_answers->boxes.isEmpty());
-    QCOMPARE(readFile(m_root + "hill/hill_flight.db"), QByteArray("flights"));
     QCOMPARE(sortedNamesOf(view), QStringList{"hill"});
     QCOMPARE(sortedNamesOf(CRkProjectManagerView(nullptr)), QStringList{"hill"});
+    // Where case is ignored, a system may keep the letters that the file has.
+    QStringList names = QDir(m_root + "hill").entryList(QDir::Files, QDir::Name);
+    if (ignoresCase(m_root))
+        names = names.join('/').toLower().split('/');
+    QCOMPARE(names, QStringList({"hill.proj", "hill_flight.db"}));
+    QCOMPARE(readSql(m_root + "hill/hill.proj", "select version from " + ProjectTableName),
+             QStringList{"2"});
+    QCOMPARE(readFile(m_root + "hill/hill_flight.db"), QByteArray("flights"));
+}
+
+void tst_ProjectOperations::renameOntoAnotherCase()
+{
+    ProjectFixture{"Hill"}.write(m_root);
+    ProjectFixture{"Dale"}.write(m_root);
+    const auto before = content(m_root);
+    CRkProjectManagerView view(nullptr);
+    rename(view, "Dale", "HILL");
+    if (ignoresCase(m_root)) {
+        QCOMPARE(m_answers->boxes.size(), 1);
+        QCOMPARE(m_answers->boxes.first().text, inUseText);
+        QCOMPARE(content(m_root), before);
+    } else {
+        QVERIFY(m_answers->boxes.isEmpty());
+        QCOMPARE(sortedNamesOf(view), QStringList({"HILL", "Hill"}));
+    }
+}
+
+void tst_ProjectOperations::renameOfAnOpenFile()
+{
+    QFETCH(MakeHolder, hold);
+    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    const QString companion = CRkControl::GetInstance()->GetFlightMissionFilePath(file);
+    QVERIFY(writeFile(companion, "flights"));
+    const auto before = content(m_root);
+    CRkProjectManagerView view(nullptr);
+    QSignalSpy renamed(&view, &CRkProjectManagerView::projectRenamed);
+    {
+        const std::unique_ptr<Holder> holder = hold(file);
+        QVERIFY(holder->isHolding());
+        rename(view, "Hill", "Dale");
+    }
+    QCOMPARE(renamed.count(), isWindows ? 0 : 1);
+    if (isWindows) {
+        QCOMPARE(m_answers->boxes.size(), 1);
+        QCOMPARE(m_answers->boxes.first().title, QString("Rename Project"));
+        QCOMPARE(m_answers->boxes.first().text, inUseText);
+        QCOMPARE(content(m_root), before);
+        QCOMPARE(tileNamed(view, "Hill")->GetProjectFilePath(), file);
+        rename(view, "Hill", "Dale"); // The file is closed now.
+    }
+    QCOMPARE(content(m_root).keys(),
+             QStringList({"Dale", "Dale/Dale.proj", "Dale/Dale_flight.db"}));
+    QCOMPARE(renamed.count(), 1);
+}
+
+void tst_ProjectOperations::renameOfAnOpenCompanion()
+{
+    QFETCH(MakeHolder, hold);
+    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    const QString companion = CRkControl::GetInstance()->GetFlightMissionFilePath(file);
+    QVERIFY(runSql(companion, {"CREATE TABLE flights (id TEXT)"}));
+    const auto before = content(m_root);
+    CRkProjectManagerView view(nullptr);
+    {
+        const std::unique_ptr<Holder> holder = hold(companion);
+        QVERIFY(holder->isHolding());
+        rename(view, "Hill", "Dale");
+    }
+    if (isWindows) {
+        QCOMPARE(m_answers->boxes.size(), 1);
+        QCOMPARE(m_answers->boxes.first().text, inUseText);
+        QCOMPARE(content(m_root), before);
+        QCOMPARE(tileNamed(view, "Hill")->GetProjectFilePath(), file);
+        rename(view, "Hill", "Dale");
+    }
+    QCOMPARE(content(m_root).keys(),
+             QStringList({"Dale", "Dale/Dale.proj", "Dale/Dale_flight.db"}));
 }
 
 void tst_ProjectOperations::renameWhenTheCompanionCannotMove_data()
@@ -1021,14 +1262,27 @@ void tst_ProjectOperations::renameToOddNames_data()
     QTest::addColumn<QString>("newName");
     QTest::addColumn<bool>("succeeds");
     QTest::newRow("quote") << "O'Hara" << true;
-    QTest::newRow("double quote") << "\"Hill\"" << true;
     QTest::newRow("per cent") << "100%" << true;
     QTest::newRow("marker") << "Hill %1 %2" << true;
-    QTest::newRow("newline") << "Hill\nDale" << true;
     QTest::newRow("emoji") << QString::fromUtf8("山丘 🛩") << true;
-    QTest::newRow("backslash") << "Hill\\Dale" << true;
     QTest::newRow("dots") << "v1.2.final" << true;
     QTest::newRow("leading dot") << ".Hill" << true;
+    QTest::newRow("trailing dot") << "Dale." << !isWindows;
+    QTest::newRow("blank and dot") << "Dale ." << !isWindows;
+    QTest::newRow("dots alone") << "..." << !isWindows;
+    QTest::newRow("double quote") << "\"Hill\"" << !isWindows;
+    QTest::newRow("newline") << "Hill\nDale" << !isWindows;
+    QTest::newRow("colon") << "Hill: Dale" << !isWindows;
+    QTest::newRow("stream of a file") << "Hill.proj:Dale" << !isWindows;
+    QTest::newRow("drive") << "C:" << !isWindows;
+    QTest::newRow("path on a drive") << "C:\\Dale" << !isWindows;
+    QTest::newRow("asterisk") << "*" << !isWindows;
+    QTest::newRow("question mark") << "Hill?" << !isWindows;
+    QTest::newRow("angle brackets") << "<Hill>" << !isWindows;
+    QTest::newRow("bar") << "Hill|Dale" << !isWindows;
+    QTest::newRow("backslash") << "Hill\\Dale" << !isWindows;
+    for (const char* device : {"CON", "nul", "COM1", "Lpt9.txt", "aux.proj", "/NUL"})
+        QTest::addRow("device %s", device) << QString(device) << !isWindows;
     QTest::newRow("markup") << "<b>Hill</b>" << false;
     QTest::newRow("slash") << "Hill/Dale" << false;
     QTest::newRow("leading slash") << "/Dale" << true;
@@ -1058,6 +1312,11 @@ void tst_ProjectOperations::renameToOddNames()
     const QString nameInRow = newName.contains('\'') ? QString("Hill") : newName;
     QCOMPARE(readSql(renamed, "select project_name from " + ProjectTableName),
              QStringList{nameInRow});
+    QCOMPARE(readSql(renamed, "select count(*) from " + ProjectTableName), QStringList{"1"});
+    QCOMPARE(readSql(renamed, "select version from " + ProjectTableName), QStringList{"2"});
+    // What begins with a dot is hidden on some systems, also from the list.
+    if (!newName.startsWith('.'))
+        QCOMPARE(tilesOf(CRkProjectManagerView(nullptr)).size(), 1);
 }
 
 void tst_ProjectOperations::renameToANameThatIsAStatement()
@@ -1101,6 +1360,11 @@ void tst_ProjectOperations::renameOutOfTheRoot_data()
     QTest::newRow("sibling of the root") << "../outside";
     QTest::newRow("through a folder") << "a/../../outside";
     QTest::newRow("back to the root") << "a/..";
+#ifdef Q_OS_WIN
+    QTest::newRow("sibling of the root, backslash") << "..\\outside";
+    QTest::newRow("through a folder, both separators") << "a\\../..\\outside";
+    QTest::newRow("back to the root, backslash") << "a\\..";
+#endif
 }
 
 void tst_ProjectOperations::renameOutOfTheRoot()
@@ -1148,6 +1412,79 @@ void tst_ProjectOperations::renameOnceOnly()
     QCOMPARE(renamed.count(), 1);
     QCOMPARE(sortedNamesOf(view), QStringList{"Dale"});
     QVERIFY(m_answers->boxes.isEmpty());
+}
+
+void tst_ProjectOperations::longPaths()
+{
+    QString root = m_root;
+    while (root.size() < 300)
+        root += QString(60, 'd') + '/';
+    setEnvironment("RK_PROJECT_DIR", root);
+    CRkProjectManagerView view(nullptr);
+    view.slotNewProject();
+    QCOMPARE(sortedNamesOf(view), QStringList{"New Project"});
+    QVERIFY(select(view, "New Project"));
+    view.slotCopyProject();
+    rename(view, "New Project", "Hill");
+    QCOMPARE(sortedNamesOf(view), QStringList({"Hill", "copy of New Project"}));
+    QVERIFY(m_answers->boxes.isEmpty());
+
+    // The files can be read, and what has been written is in them.
+    CRkProjectManagerView again(nullptr);
+    QCOMPARE(sortedNamesOf(again), QStringList({"Hill", "copy of New Project"}));
+    QVERIFY(select(again, "Hill"));
+    again.slotDeleteProject();
+    QVERIFY(!QFileInfo::exists(root + "Hill/Hill.proj"));
+    QCOMPARE(sortedNamesOf(CRkProjectManagerView(nullptr)), QStringList{"copy of New Project"});
+}
+
+void tst_ProjectOperations::rootInTheSystemsForm()
+{
+    setEnvironment("RK_PROJECT_DIR", QDir::toNativeSeparators(m_home->path() + "/projects"));
+    CRkProjectManagerView view(nullptr);
+    view.slotNewProject();
+    QVERIFY(select(view, "New Project"));
+    QCOMPARE(tilesOf(view).first()->GetProjectFilePath(), m_root + "New Project/New Project.proj");
+    rename(view, "New Project", "Hill");
+    QVERIFY(select(view, "Hill"));
+    view.slotCopyProject();
+    QVERIFY(m_answers->boxes.isEmpty());
+    QCOMPARE(
+        content(m_root).keys(),
+        QStringList({"Hill", "Hill/Hill.proj", "copy of Hill", "copy of Hill/copy of Hill.proj"}));
+}
+
+void tst_ProjectOperations::rootOfADrive()
+{
+#ifndef Q_OS_WIN
+    QSKIP("There are no drives");
+#else
+    const wchar_t drive[] = L"R:";
+    const std::wstring folder =
+        QDir::toNativeSeparators(m_home->path() + "/projects").toStdWString();
+    QVERIFY(DefineDosDeviceW(0, drive, folder.c_str()));
+    const auto undefine =
+        qScopeGuard([&] { DefineDosDeviceW(DDD_REMOVE_DEFINITION, drive, nullptr); });
+    if (!QDir("R:/").mkdir("Hill"))
+        QSKIP("This system takes no folder for a drive");
+    QVERIFY(QDir("R:/").rmdir("Hill"));
+    setEnvironment("RK_PROJECT_DIR", "R:\\");
+    CRkProjectManagerView view(nullptr);
+    view.slotNewProject();
+    QVERIFY(select(view, "New Project"));
+    QCOMPARE(tilesOf(view).first()->GetProjectFilePath(),
+             QString("R:/New Project/New Project.proj"));
+    view.slotCopyProject();
+    rename(view, "New Project", "Hill");
+    QVERIFY(m_answers->boxes.isEmpty());
+    QCOMPARE(content(m_root).keys(),
+             QStringList({"Hill", "Hill/Hill.proj", "copy of New Project",
+                          "copy of New Project/copy of New Project.proj"}));
+    rename(view, "Hill", "..\\Dale");
+    rename(view, "Hill", ".");
+    QCOMPARE(m_answers->boxes.size(), 2);
+    QVERIFY(QFileInfo::exists(m_root + "Hill/Hill.proj"));
+#endif
 }
 
 void tst_ProjectOperations::viewThatGoesDuringAMessage_data()
@@ -1263,5 +1600,15 @@ void tst_ProjectOperations::messagesAreTranslated()
     QVERIFY(tileNamed(view, "[New Project]"));
 }
 
-QTEST_MAIN(tst_ProjectOperations)
+int main(int argc, char* argv[])
+{
+    QApplication application(argc, argv);
+    const QStringList arguments = QApplication::arguments();
+    if (arguments.value(1) == QLatin1String(holdOption))
+        return holdFile(arguments.value(2));
+    QTEST_SET_MAIN_SOURCE_PATH
+    tst_ProjectOperations test;
+    return QTest::qExec(&test, argc, argv);
+}
+
 #include "tst_ProjectOperations.moc"

@@ -10,7 +10,6 @@
 #include <QPainter>
 #include <QRandomGenerator>
 #include <QTemporaryFile>
-#include <QtEndian>
 #include <QtTest>
 
 #include <fcntl.h>
@@ -58,15 +57,19 @@ QByteArray withDimensions(QByteArray png, quint32 width, quint32 height)
 {
     // The type of the first chunk follows the signature and the chunk's length.
     const int header = 12;
-    qToBigEndian(width, png.data() + header + 4);
-    qToBigEndian(height, png.data() + header + 8);
+    const auto write = [&png](quint32 number, int at) {
+        for (int i = 0; i < 4; ++i)
+            png[at + i] = char(number >> (24 - 8 * i) & 0xFFU);
+    };
+    write(width, header + 4);
+    write(height, header + 8);
     quint32 crc = 0xFFFFFFFFU;
     for (int i = header; i < header + 17; ++i) {
         crc ^= quint8(png[i]);
         for (int bit = 0; bit < 8; ++bit)
             crc = (crc >> 1) ^ (crc & 1 ? 0xEDB88320U : 0U);
     }
-    qToBigEndian(~crc, png.data() + header + 17);
+    write(~crc, header + 17);
     return png;
 }
 

@@ -5,8 +5,38 @@
 
 #include <QDir>
 
-/// What this process holds; 0 where the system does not tell.
+#ifdef Q_OS_WIN
+#include <windows.h>
+
+#include <tlhelp32.h>
+#endif
+
+/// What this process holds.
 namespace ProcessCounts {
+
+#ifdef Q_OS_WIN
+
+/// Handles, those of open files and connections among them.
+inline int files()
+{
+    DWORD count = 0;
+    GetProcessHandleCount(GetCurrentProcess(), &count);
+    return int(count);
+}
+
+inline int threads()
+{
+    const HANDLE snapshot = CreateToolhelp32Snapshot(TH32CS_SNAPTHREAD, 0);
+    THREADENTRY32 entry = {};
+    entry.dwSize = sizeof entry;
+    int count = 0;
+    for (BOOL more = Thread32First(snapshot, &entry); more; more = Thread32Next(snapshot, &entry))
+        count += entry.th32OwnerProcessID == GetCurrentProcessId();
+    CloseHandle(snapshot);
+    return count;
+}
+
+#else
 
 inline int entries(const QString& folder)
 {
@@ -23,5 +53,7 @@ inline int threads()
 {
     return entries(QStringLiteral("/proc/self/task"));
 }
+
+#endif
 
 } // namespace ProcessCounts

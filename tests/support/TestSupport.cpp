@@ -12,6 +12,12 @@
 #include <QUuid>
 #include <QVariant>
 
+#ifdef Q_OS_WIN
+#include <windows.h>
+
+#include <string>
+#endif
+
 namespace {
 
 // Settings names of the reference platform; written out because the support library knows no
@@ -48,7 +54,48 @@ private:
 
 } // namespace
 
+#ifdef Q_OS_WIN
+/// Settings of this process's own while it lives, empty at first, in the place of the user's. The
+/// newest counts; the next may be made before the last is gone.
+class TestHome::Registry
+{
+public:
+    Registry()
+    {
+        RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
+        if (RegCreateKeyExW(HKEY_CURRENT_USER, m_name.c_str(), 0, nullptr, 0, KEY_ALL_ACCESS,
+                            nullptr, &m_key, nullptr)
+                != ERROR_SUCCESS
+            || RegOverridePredefKey(HKEY_CURRENT_USER, m_key) != ERROR_SUCCESS)
+            qFatal("The settings of the person who runs this would change.");
+        newest = m_key;
+    }
+    ~Registry()
+    {
+        RegOverridePredefKey(HKEY_CURRENT_USER, nullptr);
+        RegDeleteTreeW(HKEY_CURRENT_USER, m_name.c_str());
+        RegCloseKey(m_key);
+        if (newest == m_key)
+            newest = nullptr;
+        RegOverridePredefKey(HKEY_CURRENT_USER, newest);
+    }
+    Q_DISABLE_COPY(Registry)
+
+private:
+    static inline HKEY newest = nullptr;
+
+    const std::wstring m_name =
+        L"Software\\RkTests" + QUuid::createUuid().toString().toStdWString();
+    HKEY m_key = nullptr;
+};
+#else
+class TestHome::Registry
+{
+};
+#endif
+
 TestHome::TestHome()
+    : m_registry(std::make_unique<Registry>())
 {
     Q_ASSERT(m_dir.isValid());
     QDir().mkpath(projectRoot());

@@ -7,8 +7,11 @@
 #include <QStringList>
 #include <QTemporaryDir>
 
+#include <memory>
+
 /// A home of its own for one test: settings, documents and the project root lie in a temporary
-/// folder that disappears with the object. Construct it before the first QSettings of the process.
+/// folder that disappears with the object. Where settings lie in a registry, they have a key of
+/// their own there for as long. Construct it before the first QSettings of the process.
 ///
 ///     TestHome home;
 ///     home.setCurrentUserId("user-1");
@@ -30,7 +33,10 @@ public:
     void setCurrentUserId(const QString& userId);
 
 private:
+    class Registry;
+
     QTemporaryDir m_dir;
+    std::unique_ptr<Registry> m_registry;
 };
 
 /// Sets a variable of the environment, in any letters.

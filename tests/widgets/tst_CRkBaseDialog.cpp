@@ -18,8 +18,13 @@
 #include <QTest>
 #include <QTimer>
 #include <QVBoxLayout>
+#include <QWindow>
 
 #include <memory>
+
+#ifdef Q_OS_WIN
+#include <windows.h>
+#endif
 
 namespace {
 
@@ -96,6 +101,7 @@ class tst_CRkBaseDialog : public QObject
 private slots:
     void construction();
     void flags();
+    void flagsOfTheWindow();
     void textsAreOfTheClassContext();
     void objectTree();
     void places_data();
@@ -157,6 +163,27 @@ void tst_CRkBaseDialog::flags()
     const CRkBaseDialog window(nullptr);
     QCOMPARE(int(window.windowFlags()) & ~int(Qt::Window), 0x40800);
     QVERIFY(window.isWindow());
+}
+
+void tst_CRkBaseDialog::flagsOfTheWindow()
+{
+    Dialog dialog(nullptr);
+    dialog.show();
+    QVERIFY(comesOnScreen(&dialog));
+    const QWindow& window = *dialog.windowHandle();
+    QVERIFY(window.flags() & Qt::WindowStaysOnTopHint);
+    QVERIFY(window.frameMargins().isNull());
+#ifdef Q_OS_WIN
+    // What the system itself says.
+    const auto handle = reinterpret_cast<HWND>(dialog.winId());
+    QVERIFY(GetWindowLongW(handle, GWL_EXSTYLE) & WS_EX_TOPMOST);
+    QVERIFY((GetWindowLongW(handle, GWL_STYLE) & WS_CAPTION) != WS_CAPTION);
+    RECT outside;
+    RECT inside;
+    QVERIFY(GetWindowRect(handle, &outside) && GetClientRect(handle, &inside));
+    QCOMPARE(outside.bottom - outside.top, inside.bottom);
+    QCOMPARE(outside.right - outside.left, inside.right);
+#endif
 }
 
 void tst_CRkBaseDialog::textsAreOfTheClassContext()

@@ -128,8 +128,8 @@ void tst_CRkBaseDialogLook::pictureIsDrawnOnce()
     Dialog dialog(nullptr);
     dialog.okButton()->setMinimumSize(300, 100);
     dialog.okButton()->setText(QString());
-    dialog.okButton()->setFocusPolicy(Qt::NoFocus);
     dialog.show();
+    dialog.okButton()->clearFocus(); // Some styles draw a frame around what has it.
     const QImage image = dialog.grab(dialog.okButton()->geometry()).toImage();
     QRect drawn;
     for (int y = 0; y < image.height(); ++y) {

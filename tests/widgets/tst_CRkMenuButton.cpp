@@ -266,9 +266,10 @@ void tst_CRkMenuButton::cornerOfOtherSizes()
     QFETCH(QPoint, first);
     Button menu;
     menu.setFixedSize(size);
+    // Thousands of lists on the screen take minutes on some systems.
+    disconnect(&menu, &CRkMenuButton::TrangleClicked, &menu, &CRkMenuButton::slotShowPopMenu);
     for (int y = 0; y < size.height(); ++y) {
         for (int x = 0; x < size.width(); ++x) {
-            actionView()->hide();
             menu.heard.clear();
             sendMouse(menu, QEvent::MouseButtonPress, {x, y}, Qt::LeftButton, Qt::LeftButton);
             sendMouse(menu, QEvent::MouseButtonRelease, {x, y}, Qt::LeftButton, Qt::NoButton);

@@ -5,6 +5,7 @@
 #include <RkBaseUI/CRkProgressWgt.h>
 
 #include "support/WindowWaits.h"
+#include "widgets/AtScale.h"
 #include "widgets/SendMouse.h"
 #include "widgets/VerifyDrag.h"
 
@@ -83,6 +84,8 @@ class tst_TitleBarDrag : public QObject
 private slots:
     void dragByTitleBar_data();
     void dragByTitleBar();
+    void dragAtDoubleScale_data() { addKinds(); }
+    void dragAtDoubleScale();
     void pressOffTitleBarDoesNotDrag_data();
     void pressOffTitleBarDoesNotDrag();
     void rightButtonDoesNotDrag_data() { addKinds(); }
@@ -112,6 +115,16 @@ void tst_TitleBarDrag::dragByTitleBar()
     QFETCH(QPoint, at);
     const std::unique_ptr<QDialog> dialog = make(nullptr);
     verifyDrag(*dialog, at);
+}
+
+void tst_TitleBarDrag::dragAtDoubleScale()
+{
+    QFETCH(Make, make);
+    if (!isAtScale(2))
+        return;
+    const std::unique_ptr<QDialog> dialog = make(nullptr);
+    verifyDrag(*dialog, {150, 16});
+    QCOMPARE(qRound(dialog->windowHandle()->devicePixelRatio()), 2);
 }
 
 void tst_TitleBarDrag::pressOffTitleBarDoesNotDrag_data()
