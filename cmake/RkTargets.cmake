@@ -3,10 +3,28 @@
 
 # Warnings that every target of the project is built with.
 function(rk_set_warnings target)
-    target_compile_options(${target} PRIVATE -Wall -Wextra -Wpedantic -Wshadow)
+    set(warnings -Wall -Wextra -Wpedantic -Wshadow)
     if(RKBASEUI_WARNINGS_AS_ERRORS)
-        target_compile_options(${target} PRIVATE -Werror)
+        list(APPEND warnings -Werror)
     endif()
+    target_compile_options(${target} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${warnings}>")
+endfunction()
+
+# rk_windows_resource(<target> <description> [<icon>])
+#
+# What Windows shows of a program or library: its version, a description, and the icon of a program.
+function(rk_windows_resource target description)
+    if(NOT WIN32)
+        return()
+    endif()
+    set(icon "")
+    if(ARGC GREATER 2)
+        get_filename_component(icon "${ARGV2}" ABSOLUTE)
+        set(icon "IDI_ICON1 ICON \"${icon}\"")
+    endif()
+    string(REPLACE "." "," numbers "${PROJECT_VERSION}")
+    configure_file("${PROJECT_SOURCE_DIR}/cmake/Version.rc.in" "${CMAKE_CURRENT_BINARY_DIR}/${target}.rc" @ONLY)
+    target_sources(${target} PRIVATE "${CMAKE_CURRENT_BINARY_DIR}/${target}.rc")
 endfunction()
 
 # rk_public_headers(<target> <package> <header>...)
