@@ -64,7 +64,10 @@ void CRkUpLoadObject::_post(const QNetworkRequest& request, const QByteArray& bo
     QNetworkReply* reply = m_manager->post(request, body);
     connect(reply, &QNetworkReply::uploadProgress, this, &CRkUpLoadObject::uploadProgress);
     connect(reply, &QNetworkReply::finished, this, [this, reply] { _reportOutcome(reply); });
-    connect(thread(), &QThread::finished, reply, &QNetworkReply::abort);
+    connect(thread(), &QThread::finished, reply, [reply] {
+        if (reply->error() == QNetworkReply::NoError) // Else it has ended, and only not said so.
+            reply->abort();
+    });
 }
 
 void CRkUpLoadObject::_reportOutcome(QNetworkReply* reply)
