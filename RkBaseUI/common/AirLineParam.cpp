@@ -27,9 +27,9 @@ bool outlineToUtm(const QList<QPointF>& outline, std::vector<CRkPoint2D>& utm)
 }
 
 /// Stores the outline, which is that of the strip around it for a strip block.
-bool fillPolygon(const std::vector<CRkPoint2D>& outline, INPUT_PARAM& param)
+bool fillPolygon(int blockType, const std::vector<CRkPoint2D>& outline, INPUT_PARAM& param)
 {
-    if (param.nBlockType != stripBlockType) {
+    if (blockType != stripBlockType) {
         param.vecPolygon = outline;
         return true;
     }
@@ -113,13 +113,13 @@ bool UpdateAirLineParam(CRkBlock* block, INPUT_PARAM& param, bool reset)
     if (!outlineToUtm(outline, utm))
         return false;
 
-    param.nBlockType = block->GetBlockType();
     param.dBandingOffsetLeft = 0.0;
     param.dBandingOffsetRight = 0.0;
     task->GetBandingOffset(param.dBandingOffsetLeft, param.dBandingOffsetRight);
-    if (!fillPolygon(utm, param))
+    if (!fillPolygon(block->GetBlockType(), utm, param))
         return false;
 
+    param.nBlockType = block->GetBlockType();
     fillFromTask(*task, param, reset);
     fillFromExtendedTask(*extended, param);
     param.dSingleTaskDistance = singleTaskDistance(*task, param, reset);

@@ -31,7 +31,9 @@ std::vector<int> indicesOf(const std::vector<Row>& rows)
 LoadedOrder afterLoad(const std::vector<Row>& rows, const QString& notAvailable)
 {
     std::vector<int> order = indicesOf(rows);
-    sortBy(&Row::name, rows, order.begin(), order.end());
+    std::stable_sort(order.begin(), order.end(), [&](int left, int right) {
+        return rows[std::size_t(left)].name.localeAwareCompare(rows[std::size_t(right)].name) < 0;
+    });
     const auto firstDisabled = std::stable_partition(order.begin(), order.end(), [&](int row) {
         return rows[std::size_t(row)].type != notAvailable;
     });

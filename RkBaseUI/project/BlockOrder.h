@@ -8,9 +8,8 @@
 #include <optional>
 #include <vector>
 
-/// The orders of the block table, as computation on the texts of its rows. Texts are compared code
-/// unit by code unit, and rows of equal texts keep their order. An order is given as the present
-/// rows' indices in their new sequence.
+/// The orders of the block table, as computation on the texts of its rows. Rows of equal texts keep
+/// their order. An order is given as the present rows' indices in their new sequence.
 namespace BlockOrder {
 
 /// What of a row the orders look at.
@@ -26,7 +25,8 @@ struct LoadedOrder
     int disabledCount = 0; ///< Rows at the end that are disabled.
 };
 
-/// By name; then those whose type is the text for "none", which are disabled.
+/// By name as the user's language has it, like items of a tree; then those whose type is the text
+/// for "none", which are disabled.
 LoadedOrder afterLoad(const std::vector<Row>& rows, const QString& notAvailable);
 
 /// The rows of the chosen type by name, then the others by type. Without one, all by type.

@@ -80,6 +80,8 @@ void readProject(CRkDataBase& database, const QString& file, const QString& user
 QList<Block> readBlocks(CRkDataBase& database, const QString& projectId)
 {
     QList<Block> blocks;
+    if (!ProjectStoreSql::staysQuoted(projectId))
+        return blocks;
     QSqlQuery query = database.exec(BlockStoreSql::selectBlocks(projectId));
     while (query.next()) {
         Block block;
@@ -155,7 +157,10 @@ QStringList blocksWithTasks(const QString& projectFile, const QStringList& block
         return {};
     const std::vector<int> hasTasks =
         askAll(database, blockIds, BlockStoreSql::selectBlocksWithTasks(), [&](const QString& id) {
-            return database.exec(BlockStoreSql::selectTasks(id)).next() ? 1 : 0;
+            return ProjectStoreSql::staysQuoted(id)
+                    && database.exec(BlockStoreSql::selectTasks(id)).next()
+                ? 1
+                : 0;
         });
     database.close();
     QStringList ids;
@@ -176,6 +181,8 @@ void countFlights(CRkDataBase& database, const QList<CRkTask*>& tasks)
             ids.append(task->GetTaskID());
         counts =
             askAll(database, ids, BlockStoreSql::countFlightsOfTasks(), [&](const QString& id) {
+                if (!ProjectStoreSql::staysQuoted(id))
+                    return 0;
                 QSqlQuery query = database.exec(BlockStoreSql::countFlights(id));
                 return query.next() ? query.value(0).toInt() : 0;
             });

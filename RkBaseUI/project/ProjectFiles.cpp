@@ -84,17 +84,10 @@ QString newIdentifier()
     return GetUidVariant(QUuid::createUuid().toString());
 }
 
-/// Whether the name stays between the quotes of a statement. Behind a quote without a partner it
-/// would be a part of the statement, which could then change anything, or never end.
-bool staysQuoted(QString name)
-{
-    return !name.remove(QStringLiteral("''")).contains(QLatin1Char('\''));
-}
-
 /// The statements without the one for the name when the name would break out of it.
 QStringList harmless(QStringList statements, const QString& newName)
 {
-    if (!staysQuoted(newName))
+    if (!ProjectStoreSql::staysQuoted(newName))
         statements.removeOne(ProjectStoreSql::updateName(newName));
     return statements;
 }

@@ -18,6 +18,11 @@ QString quoted(const QString& value)
 
 } // namespace
 
+bool staysQuoted(QString value)
+{
+    return !value.remove(QStringLiteral("''")).contains(QLatin1Char('\''));
+}
+
 QStringList createTables()
 {
     return {

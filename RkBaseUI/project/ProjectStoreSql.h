@@ -30,6 +30,10 @@ struct CopyIdentifiers
     QString mission;
 };
 
+/// Whether a value stays between the quotes of a statement. Behind a quote without a partner it
+/// would be a part of the statement, which could then change anything, or never end.
+bool staysQuoted(QString value);
+
 /// The tables of a new project file, in the order of their making.
 QStringList createTables();
 

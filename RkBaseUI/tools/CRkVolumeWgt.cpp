@@ -356,6 +356,9 @@ rk::CellVolume CRkVolumeWgt::GetMeasurement(const std::vector<const QString*>& n
         return {};
     std::transform(names.cbegin(), names.cend(), heights.begin(),
                    [this](const QString* name) { return m_mapPtHeight.value(*name); });
+    // A point can lose its elevation when a further grid brings its name again.
+    if (!std::all_of(heights.cbegin(), heights.cend(), [](double h) { return std::isfinite(h); }))
+        return {};
     return rk::cellVolume(heights, side);
 }
 

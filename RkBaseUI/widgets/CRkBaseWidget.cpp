@@ -42,6 +42,7 @@ void CRkBaseWidget::mouseMoveEvent(QMouseEvent* event)
 
 void CRkBaseWidget::showEvent(QShowEvent* event)
 {
+    m_dragging = false; // The release after a press that closed a popup went elsewhere.
     // A frameless window that is shown again otherwise stays unmapped, and so unpainted, on some
     // systems.
     setAttribute(Qt::WA_Mapped, true);

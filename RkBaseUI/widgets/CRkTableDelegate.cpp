@@ -15,6 +15,9 @@ namespace {
 /// Characters that a line edit takes. Its own limit would cut a longer text of the cell.
 constexpr int longestText = 1000000;
 
+/// Property of a spin box: whether it has reported a number since it was loaded.
+constexpr char isEdited[] = "isEdited";
+
 RkEditorDescriptor descriptorOfTexts(const QStringList& texts)
 {
     return {texts.size() == 1 ? RkEditorDescriptor::SpinBox : 0, {}};
@@ -90,6 +93,8 @@ QWidget* CRkTableDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
         spinBox->setRange(0.0, 1e9);
         connect(spinBox, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
                 &CRkTableDelegate::SpinBoxValueChanged);
+        connect(spinBox, QOverload<double>::of(&QDoubleSpinBox::valueChanged), spinBox,
+                [spinBox] { spinBox->setProperty(isEdited, true); });
         editor = spinBox;
         break;
     }
@@ -126,6 +131,8 @@ void CRkTableDelegate::setEditorData(QWidget* editor, const QModelIndex& index) 
         selectValue(*comboBox, index.data(Qt::EditRole));
     else
         QStyledItemDelegate::setEditorData(editor, index);
+    if (editorOf<QDoubleSpinBox>(editor, index, RkEditorDescriptor::SpinBox))
+        editor->setProperty(isEdited, false);
 }
 
 void CRkTableDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
@@ -133,7 +140,9 @@ void CRkTableDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
 {
     if (auto* spinBox = editorOf<QDoubleSpinBox>(editor, index, RkEditorDescriptor::SpinBox)) {
         spinBox->interpretText();
-        model->setData(index, spinBox->value(), Qt::EditRole);
+        // A cell that was only opened keeps its number, which the range may not have.
+        if (spinBox->property(isEdited).toBool())
+            model->setData(index, spinBox->value(), Qt::EditRole);
     } else if (auto* comboBox = editorOf<QComboBox>(editor, index, RkEditorDescriptor::ComboBox)) {
         model->setData(index, comboBox->currentText(), Qt::EditRole);
     } else if (auto* lineEdit = editorOf<QLineEdit>(editor, index, RkEditorDescriptor::LineEdit)) {

@@ -37,7 +37,8 @@ public:
     /// value (both as texts, case-sensitive), and has the value as a further entry when none is.
     void setEditorData(QWidget* editor, const QModelIndex& index) const override;
 
-    /// Stores the number of a spin box, the current text of a combo box, the text of a line edit.
+    /// Stores the number of a spin box once the user has changed it, the current text of a combo
+    /// box, the text of a line edit.
     void setModelData(QWidget* editor, QAbstractItemModel* model,
                       const QModelIndex& index) const override;
 

@@ -226,6 +226,7 @@ void tst_AirLineParam::flagsAndDirection()
     QFETCH(int, direction);
     task().SetReturnRoute(returns);
     task().SetDirectionOfFlight(direction);
+    m_param.bIncludeTransferPoints = m_param.bGenerateFrameRoute = m_param.bConnectRoute = true;
     QVERIFY(UpdateAirLineParam(m_block.get(), m_param, false));
     QTEST(m_param.nReturnRouteMode, "expectedMode");
     QTEST(m_param.nDirectionOfFlight, "expectedDirection");
@@ -359,6 +360,7 @@ void tst_AirLineParam::stripWithProblems()
     QVERIFY(!UpdateAirLineParam(m_block.get(), m_param, true));
     QVERIFY(m_param.vecPolygon == markedParam().vecPolygon);
     QVERIFY(m_param.vecStripCenterLine == inUtm(line));
+    QCOMPARE(m_param.nBlockType, markedParam().nBlockType);
     QCOMPARE(m_param.dObjectHeight, -7.0);
     QCOMPARE(task().GetBlockSingleTaskMileage(), -1.0);
 }

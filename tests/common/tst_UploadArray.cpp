@@ -80,6 +80,7 @@ private slots:
     void missingFileIsNotMade();
     void filesThatAreNoProject_data();
     void filesThatAreNoProject();
+    void missingTablesAndColumns();
     void fileIsLeftAlone();
     void tablesThatComputeAreNotAsked_data();
     void tablesThatComputeAreNotAsked();
@@ -243,6 +244,21 @@ void tst_UploadArray::filesThatAreNoProject()
     QCOMPARE(GetUploadArray(file), QByteArray("{}"));
     QCOMPARE(readFile(file), content);
     QCOMPARE(GetUploadArray(m_dir.path()), QByteArray("{}"));
+}
+
+/// What a file does not have is left out.
+void tst_UploadArray::missingTablesAndColumns()
+{
+    const QStringList tables = emptyTables();
+    const QStringList rows = {project("'p'", "A"), block("'1'", "b", "p")};
+    QCOMPARE(GetUploadArray(newFile({tables[0], rows[0]})),
+             QByteArray(R"({"id":"p","map_scale":500,"project_name":"A"})"));
+    QCOMPARE(GetUploadArray(newFile(tables.mid(0, 2) + rows)),
+             QByteArray(R"({"blocks":[{"id":"1","project_id":"p","survey_area_guid":"b"}],)"
+                        R"("id":"p","map_scale":500,"project_name":"A"})"));
+    QCOMPARE(GetUploadArray(newFile({"CREATE TABLE project (project_name TEXT)",
+                                     "INSERT INTO project VALUES ('A')"})),
+             QByteArray("{}"));
 }
 
 void tst_UploadArray::fileIsLeftAlone()

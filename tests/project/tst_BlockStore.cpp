@@ -5,6 +5,7 @@
 
 #include "BlockFixture.h"
 #include "project/BlockStoreSql.h"
+#include "project/ProjectStoreSql.h"
 #include "support/TestSupport.h"
 
 #include <RkAlgorthm/RkAlgorthm.h>
@@ -76,22 +77,24 @@ QList<int> flightsOfTasks(const CRkBlock& block)
     return counts;
 }
 
-/// A statement for each task, as the counts are defined.
+/// A statement for each task, as the counts are defined; none for an id that would be a part of it.
 QList<int> literalFlights(const QString& projectFile, const CRkBlock& block)
 {
     QList<int> counts;
     for (const CRkTask* task : block.GetMissionList()) {
-        counts.append(
-            readSql(flightsOf(projectFile), BlockStoreSql::countFlights(task->GetTaskID()))
-                .value(0)
-                .toInt());
+        const QString id = task->GetTaskID();
+        const QStringList found = ProjectStoreSql::staysQuoted(id)
+            ? readSql(flightsOf(projectFile), BlockStoreSql::countFlights(id))
+            : QStringList();
+        counts.append(found.value(0).toInt());
     }
     return counts;
 }
 
 bool literallyHasTasks(const QString& projectFile, const QString& blockId)
 {
-    return !readSql(projectFile, BlockStoreSql::selectTasks(blockId)).isEmpty();
+    return ProjectStoreSql::staysQuoted(blockId)
+        && !readSql(projectFile, BlockStoreSql::selectTasks(blockId)).isEmpty();
 }
 
 } // namespace
@@ -113,6 +116,7 @@ private slots:
     void lastRowOfAUserHolds();
     void unknownTypes();
     void rowWhoseBlockCannotBeLoaded();
+    void projectIdThatIsAStatement();
     void blockInTheManagerStays();
     void blocksAsLoadedOneByOne();
     void computedTables_data();
@@ -265,17 +269,27 @@ void tst_BlockStore::unknownTypes()
 
 void tst_BlockStore::rowWhoseBlockCannotBeLoaded()
 {
-    // A project id that is not plain text: the list of blocks finds them, a block does not.
     BlockFixture fixture{"Hill"};
-    fixture.id = "x' or '1'='1";
     fixture.blocks = {{"b1", "one"}, {"b2", "two"}};
     const QString file = fixture.write(root());
-    QVERIFY(runSql(file, {"UPDATE " + SurveyAreaTableName + " SET project_id='other'"}));
-    addBlock("b2", {});
+    QVERIFY(runSql(file,
+                   {"UPDATE " + SurveyAreaTableName
+                    + " SET survey_area_guid=NULL WHERE survey_area_guid='b1'"}));
     const auto project = BlockStore::load(file, "user-1");
     QCOMPARE(project->blocks.size(), 1);
     QCOMPARE(project->blocks[0].id, QString("b2"));
     QVERIFY(!CRkBlockManager::instance().GetBlock("b1"));
+}
+
+void tst_BlockStore::projectIdThatIsAStatement()
+{
+    BlockFixture fixture{"Hill"};
+    fixture.id = "x' or '1'='1";
+    fixture.blocks = {{"b1", "one"}};
+    const QString file = fixture.write(root());
+    QVERIFY(runSql(file, {"UPDATE " + SurveyAreaTableName + " SET project_id='other'"}));
+    addBlock("b1", {});
+    QVERIFY(BlockStore::load(file, "user-1")->blocks.isEmpty());
 }
 
 void tst_BlockStore::blockInTheManagerStays()

@@ -9,6 +9,7 @@
 #include "support/TestSupport.h"
 #include "support/WindowWaits.h"
 #include "widgets/ExecAnd.h"
+#include "widgets/SendMouse.h"
 #include "widgets/VerifyDrag.h"
 
 #include <RkBaseUI/CRkBlockManagerWidget.h>
@@ -644,6 +645,9 @@ void tst_CRkProjectManagerDialog::mouseIsGrabbedDuringADrag()
     QWindow* window = dialog.windowHandle();
     QTest::mousePress(window, Qt::LeftButton, {}, QPoint(500, 16));
     QCOMPARE(QWidget::mouseGrabber(), &dialog);
+    const QPoint before = dialog.pos();
+    sendMouse(dialog, QEvent::MouseMove, {530, 36}, Qt::NoButton, Qt::NoButton);
+    QCOMPARE(dialog.pos(), before); // Without the button nothing moves.
     QTest::mouseRelease(window, Qt::LeftButton, {}, QPoint(500, 16));
     QCOMPARE(QWidget::mouseGrabber(), nullptr);
 }

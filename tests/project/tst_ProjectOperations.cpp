@@ -259,6 +259,7 @@ private slots:
     void copyOfAnOddName();
     void copyThatCannotBeOpened();
     void copyIsScrolledTo();
+    void copyForAnotherUser();
     void copyOntoAnotherCase();
 
     void deleteNeedsASelection();
@@ -297,6 +298,7 @@ private slots:
     void renameWhenTheCompanionCannotMove();
     void renameThatCannotBeTakenBack();
     void renameOfAMissingFile();
+    void renameOfATileThatIsGone();
     void renameWithoutASender();
     void renameToOddNames_data();
     void renameToOddNames();
@@ -676,10 +678,26 @@ void tst_ProjectOperations::copyIsScrolledTo()
     CRkProjectManagerView view(nullptr);
     view.resize(220, 300);
     view.show();
+    // As a page does that filters after each copy.
+    connect(&view, &CRkProjectManagerView::projectCopied, &view,
+            [&view] { view.verticalScrollBar()->setValue(0); });
     QVERIFY(select(view, "A"));
     view.slotCopyProject();
     QVERIFY(view.verticalScrollBar()->maximum() > 0);
     QCOMPARE(view.verticalScrollBar()->value(), view.verticalScrollBar()->maximum());
+}
+
+void tst_ProjectOperations::copyForAnotherUser()
+{
+    ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    QSignalSpy copied(&view, &CRkProjectManagerView::projectCopied);
+    QVERIFY(select(view, "Hill"));
+    m_home->setCurrentUserId("user-2");
+    view.slotCopyProject();
+    QCOMPARE(copied.count(), 1);
+    QCOMPARE(sortedNamesOf(view), QStringList{"Hill"});
+    QVERIFY(QFileInfo::exists(m_root + "copy of Hill/copy of Hill.proj"));
 }
 
 void tst_ProjectOperations::copyOntoAnotherCase()
@@ -1233,6 +1251,20 @@ void tst_ProjectOperations::renameThatCannotBeTakenBack()
         {"Hill/Hill_flight.db", "flights"},
     };
     QCOMPARE(content(m_root), expected);
+}
+
+void tst_ProjectOperations::renameOfATileThatIsGone()
+{
+    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    const QByteArray project = readFile(file);
+    CRkProjectManagerView view(nullptr);
+    Tile* tile = tileNamed(view, "Hill");
+    QVERIFY(select(view, "Hill"));
+    view.slotDeleteProject();
+    QVERIFY(writeFile(file, project)); // Another program puts it back before the tile is freed.
+    emit tile->GetTextItem()->editFinished("Dale");
+    QCOMPARE(m_answers->boxes.size(), 1); // The question before the deletion alone.
+    QCOMPARE(content(m_root).keys(), QStringList({"Hill", "Hill/Hill.proj"}));
 }
 
 void tst_ProjectOperations::renameOfAMissingFile()

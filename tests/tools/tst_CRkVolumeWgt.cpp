@@ -193,6 +193,7 @@ private slots:
     void modesStayWhenTheLanguageChanges();
     void thirdModeInChinese();
     void editorInChinese();
+    void editorLeftAsItWas();
     void editorAfterAnotherMode();
     void fieldsOfSpinBoxChanged_data();
     void fieldsOfSpinBoxChanged();
@@ -214,6 +215,7 @@ private slots:
 
     void brokenPoints_data();
     void brokenPoints();
+    void elevationLostToAnotherGrid();
     void brokenCells();
     void hugeNumbers();
     void namesWithBars();
@@ -800,6 +802,25 @@ void tst_CRkVolumeWgt::editorInChinese()
     QCOMPARE(editor->value(), 9.5);
 }
 
+/// The design elevation is below what the editor can show.
+void tst_CRkVolumeWgt::editorLeftAsItWas()
+{
+    const Chinese chinese;
+    const auto window = windowWith({-10, -12, -14, -16});
+    design(*window).setCurrentIndex(2);
+    window->show();
+    QVERIFY(comesOnScreen(window.get()));
+    QTableWidget& points = table(*window);
+    const auto before = allTexts(*window);
+    points.setCurrentCell(2, 3);
+    points.editItem(points.item(2, 3));
+    auto* editor = points.viewport()->findChild<QDoubleSpinBox*>("2|3");
+    QVERIFY(editor);
+    QTest::keyClick(editor, Qt::Key_Tab);
+    QTRY_VERIFY(!points.viewport()->findChild<QDoubleSpinBox*>("2|3"));
+    QCOMPARE(allTexts(*window), before);
+}
+
 void tst_CRkVolumeWgt::editorAfterAnotherMode()
 {
     const Chinese chinese;
@@ -1058,6 +1079,26 @@ void tst_CRkVolumeWgt::brokenPoints()
     design(window).setCurrentIndex(1);
     QCOMPARE(texts(window, 0).at(3), QString("10.00"));
     QCOMPARE(computed(window).value("A").toList(), QVariantList({960.0, 0.0}));
+}
+
+void tst_CRkVolumeWgt::elevationLostToAnotherGrid()
+{
+    CRkVolumeWgt window(nullptr);
+    window.InitWgt();
+    Map points = fourPoints("P", 0, {10, 12, 14, 16});
+    const Map others = fourPoints("Q", 100, {10, 12, 14, 16});
+    for (auto it = others.cbegin(); it != others.cend(); ++it)
+        points.insert(it.key(), it.value());
+    window.slotGridPt(points, {{"A", cell(0, 0, 20)}, {"B", cell(100, 0, 20)}});
+    const QVariantList whole = computed(window).value("B").toList();
+    window.InitWgt();
+    points.insert("P2", point(20, 20, notANumber));
+    window.slotGridPt(points, {});
+    const QVariantMap volumes = computed(window);
+    QCOMPARE(volumes.value("A").toList(), QVariantList({0.0, 0.0}));
+    QVERIFY(std::isfinite(volumes.value("B").toList().value(0).toDouble()));
+    QCOMPARE(volumes.value("B").toList().size(), whole.size());
+    QVERIFY(!window.findChild<QTextEdit*>("textEdit")->toPlainText().contains("nan"));
 }
 
 void tst_CRkVolumeWgt::brokenCells()

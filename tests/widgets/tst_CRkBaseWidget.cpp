@@ -41,6 +41,7 @@ private slots:
     void disablingStopsDragAtOnce();
     void eventsReachTheBaseHandler();
     void everyShowSetsMapped();
+    void showingAgainStartsWithoutADrag();
 };
 
 void tst_CRkBaseWidget::construction()
@@ -200,6 +201,19 @@ void tst_CRkBaseWidget::everyShowSetsMapped()
         widget.showEvent(&show);
         QVERIFY(widget.testAttribute(Qt::WA_Mapped));
     }
+}
+
+void tst_CRkBaseWidget::showingAgainStartsWithoutADrag()
+{
+    CRkBaseWidget widget(nullptr);
+    widget.setGeometry(100, 120, 200, 150);
+    widget.show();
+    sendMouse(widget, QEvent::MouseButtonPress, {50, 50}, Qt::LeftButton, Qt::LeftButton);
+    widget.hide(); // The release goes elsewhere.
+    widget.show();
+    const QPoint before = widget.pos();
+    sendMouse(widget, QEvent::MouseMove, {60, 60}, Qt::NoButton, Qt::LeftButton);
+    QCOMPARE(widget.pos(), before);
 }
 
 QTEST_MAIN(tst_CRkBaseWidget)
