@@ -89,7 +89,8 @@ public Q_SLOTS:
     void slotGridPt(const QMap<QString, QVariant>& mapPt, const QMap<QString, QVariant>& mapGrid);
 
     /// The user entered a design elevation. `cell` is the row in the table, "|" and anything not
-    /// empty; without both, or with a row that is not there, nothing happens.
+    /// empty; without both, or with a row that is not there, nothing happens. Each number counts at
+    /// once, also when the editor is then left with Escape.
     void slotSpinBoxChanged(double valueTemp, const QString& cell);
 
 protected:

@@ -160,6 +160,8 @@ double volumeOfOneSign(const CornerHeights& heights, double side)
 
 CellVolume volumeOfTwoAndTwo(const CornerHeights& heights, double side)
 {
+    if (std::count_if(heights.begin(), heights.end(), [](double h) { return h > 0; }) != 2)
+        return {};
     const auto [h0, h1, h2, h3] = heights;
     const auto z = [&](std::size_t from, std::size_t to) {
         return zeroPointDistance(heights[from], heights[to], side);
@@ -189,6 +191,8 @@ CellVolume volumeOfOneAndThree(const CornerHeights& heights, double side)
     const auto lone = std::size_t(std::find_if(heights.begin(), heights.end(),
                                                [&](double h) { return isAbove(h) == isLoneAbove; })
                                   - heights.begin());
+    if (lone == heights.size())
+        return {};
 
     double sumOfOthers = 0.0;
     for (std::size_t i = 0; i < heights.size(); ++i) {

@@ -91,11 +91,13 @@ RKBASEUI_EXPORT CellVolume cellVolume(const CornerHeights& heights, double side)
 RKBASEUI_EXPORT double volumeOfOneSign(const CornerHeights& heights, double side);
 
 /// Volumes of a square with exactly two corners above zero. Two on a side make two trapezia; two on
-/// a diagonal make the triangles at corners 0 and 3, and a hexagon between them.
+/// a diagonal make the triangles at corners 0 and 3, and a hexagon between them. None for any other
+/// square.
 RKBASEUI_EXPORT CellVolume volumeOfTwoAndTwo(const CornerHeights& heights, double side);
 
 /// Volumes of a square with one corner above zero, or all but one: a triangle and a pentagon. A
-/// lone corner of height zero leaves no triangle, and the pentagon the whole square.
+/// lone corner of height zero leaves no triangle, and the pentagon the whole square. None where no
+/// corner is above zero, or each.
 RKBASEUI_EXPORT CellVolume volumeOfOneAndThree(const CornerHeights& heights, double side);
 
 /// Adds a cell to the totals, with the area of a full square.

@@ -18,6 +18,7 @@
 #include <QLayout>
 #include <QLineEdit>
 #include <QPushButton>
+#include <QRegularExpression>
 #include <QSettings>
 #include <QSignalSpy>
 #include <QTest>
@@ -164,10 +165,13 @@ void tst_CRkProjectManagerWidget::buttons()
     const QString style = button.styleSheet();
     QVERIFY(style.contains("background-color: transparent;"));
     QVERIFY(style.contains("border: none;"));
-    for (const char* const state : {"nor", "hov", "per"}) {
-        const QString path = QString(":/images/Normal/%1_%2.png").arg(picture, state);
-        QVERIFY2(style.contains("url(" + path + ")"), qPrintable(path));
-    }
+    // In this order, for a later rule wins over an earlier one.
+    const QRegularExpression rules(
+        QString(R"(QPushButton \{[^}]*url\(:/images/Normal/%1_nor\.png\)[^}]*\}\s*)"
+                R"(QPushButton:hover[^{]*\{[^}]*url\(:/images/Normal/%1_hov\.png\)[^}]*\}\s*)"
+                R"(QPushButton:pressed \{[^}]*url\(:/images/Normal/%1_per\.png\))")
+            .arg(picture));
+    QVERIFY2(rules.match(style).hasMatch(), qPrintable(style));
 }
 
 void tst_CRkProjectManagerWidget::search()

@@ -128,6 +128,7 @@ private slots:
     void twoAndTwo();
     void oneAndThree_data();
     void oneAndThree();
+    void squaresOfAnotherKind();
     void zeroIsNotAbove_data();
     void zeroIsNotAbove();
     void everySignPatternKeepsItsSigns();
@@ -516,6 +517,16 @@ void tst_SquareGridVolume::oneAndThree()
     QFETCH(double, fill);
     compareVolumes(rk::volumeOfOneAndThree(heights, 12.0), excavation, fill);
     compareVolumes(rk::cellVolume(heights, 12.0), excavation, fill);
+}
+
+void tst_SquareGridVolume::squaresOfAnotherKind()
+{
+    for (const CornerHeights& heights :
+         {CornerHeights{-1, -1, -1, -1}, CornerHeights{0, 0, 0, 0}, CornerHeights{-1, -1, 1, -1},
+          CornerHeights{1, 1, 1, -1}, CornerHeights{1, 2, 3, 4}})
+        compareVolumes(rk::volumeOfTwoAndTwo(heights, 12.0), 0.0, 0.0);
+    for (const CornerHeights& heights : {CornerHeights{1, 2, 3, 4}, CornerHeights{5, 5, 5, 5}})
+        compareVolumes(rk::volumeOfOneAndThree(heights, 12.0), 0.0, 0.0);
 }
 
 void tst_SquareGridVolume::zeroIsNotAbove_data()
