@@ -940,7 +940,7 @@ void tst_CRkCityDateFilterWidget::popupOnTheSecondScreen()
     QFETCH(bool, isCity);
 #ifdef Q_OS_WIN
     if (QGuiApplication::screens().size() != 2)
-        QSKIP("A second screen cannot be made here");
+        QSKIP("A second screen cannot be made here"); // The screens are those of the machine.
 #endif
     if (!isOnTwoScreens())
         return;

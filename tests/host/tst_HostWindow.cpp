@@ -495,6 +495,8 @@ void tst_HostWindow::dialogListsTheProjectsOfTheUser()
         const auto count =
             dialog->getProjectManagerWidget()->getProjectManagerView()->scene()->items().size();
         dialog->close();
+        // The dialog goes when the events are handled; QTRY_VERIFY cannot leave a function of a
+        // number.
         const bool isGone = QTest::qWaitFor([this] { return !m_window->projectsDialog(); });
         return isGone ? int(count) : -1;
     };
@@ -908,6 +910,7 @@ void tst_HostWindow::programKeepsItsSettingsWhereItIsTold()
 void tst_HostWindow::programStartsWithTheUserOfTheSamples()
 {
 #ifdef Q_OS_WIN
+    // Its settings are in the registry of the person, which a test must leave alone.
     QSKIP("The program cannot be started with settings of its own");
 #endif
     const QString chosen = m_home.path() + QStringLiteral("/first");

@@ -303,6 +303,7 @@ void tst_MapPanel::keysMoveAndZoom()
     const QPointF place = before.toPlane(middle);
     const auto press = [this](Qt::Key key) {
         QTest::keyClick(m_panel.get(), key);
+        // The map glides; QTRY_VERIFY cannot leave a function of a view.
         const bool isAtRest = QTest::qWaitFor([this] { return !m_panel->isMoving(); });
         return isAtRest ? m_panel->view() : MapView();
     };

@@ -574,6 +574,8 @@ std::unique_ptr<CRkNoflyApplyUpload> tst_CRkNoflyApplyUpload::inState(const QStr
     const QSignalSpy accepted(window.get(), &QDialog::accepted);
     window->BeginUpload(state == "body half sent" ? QByteArray(64'000'000, 'x') : json);
 
+    // Each state comes with events of the network, in vain waited for after five seconds;
+    // QTRY_VERIFY cannot leave a function of a window.
     bool isThere = true;
     if (state == "body half sent")
         isThere = QTest::qWaitFor([&] { return bar(*window)->value() > 0; });

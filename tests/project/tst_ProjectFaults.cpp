@@ -380,7 +380,7 @@ void tst_ProjectFaults::smallDisk_data()
 void tst_ProjectFaults::smallDisk()
 {
     QFETCH(QStringList, action);
-    if (!SmallDisk::isAllowed())
+    if (!SmallDisk::isAllowed()) // Without them the disk cannot be there at all.
         QSKIP("mounting a small disk takes the rights of an administrator");
     constexpr int page = 4096;
     constexpr int enough = 10 * page;

@@ -1489,7 +1489,7 @@ void tst_ProjectOperations::rootInTheSystemsForm()
 void tst_ProjectOperations::rootOfADrive()
 {
 #ifndef Q_OS_WIN
-    QSKIP("There are no drives");
+    QSKIP("There are no drives"); // A root is the folder of a drive on Windows alone.
 #else
     const wchar_t drive[] = L"R:";
     const std::wstring folder =
