@@ -115,9 +115,11 @@ bool isLoaded(const QString& blockId, const CRkOpenedProjectInfo& info, CRkDataB
 QList<Block> loadedBlocks(const QList<Block>& blocks, const CRkOpenedProjectInfo& info,
                           CRkDataBase& database)
 {
-    const QStringList statements = BlockStoreSql::makeIndexedCopies();
-    for (const QString& statement : statements)
-        database.exec(statement);
+    if (!database.exec(BlockStoreSql::selectCollations()).next()) {
+        const QStringList statements = BlockStoreSql::makeIndexedCopies();
+        for (const QString& statement : statements)
+            database.exec(statement);
+    }
     QList<Block> loaded;
     for (const Block& block : blocks) {
         if (isLoaded(block.id, info, database))

@@ -46,6 +46,11 @@ QString countFlights(const QString& taskId)
         + " where flight_task_id = " + quoted(taskId);
 }
 
+QString selectCollations()
+{
+    return QStringLiteral("select 1 from main.sqlite_master where sql like '%collate%'");
+}
+
 QStringList makeIndexedCopies()
 {
     return QStringList(QStringLiteral("PRAGMA temp_store=MEMORY"))

@@ -21,6 +21,9 @@ QString selectTasks(const QString& blockId);
 /// The number of flights of a task in the one column FlightTimes.
 QString countFlights(const QString& taskId);
 
+/// A row where a table of the file compares texts in a way of its own, which a copy would not.
+QString selectCollations();
+
 /// Puts copies of the survey areas and tasks, which are indexed by what a block asks for, before
 /// the tables of the file. Without them loading every block would read the whole file for each.
 QStringList makeIndexedCopies();

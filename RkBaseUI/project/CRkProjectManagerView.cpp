@@ -200,16 +200,17 @@ void CRkProjectManagerView::slotRenameProjectItem(const QString& newName)
     if (!tile)
         return;
 
-    // The view may go while a message is up. Its scene must not before the event is over that took
-    // the focus from the caption.
+    // The view or the tile may go while a message is up. The scene must not before the event is
+    // over that took the focus from the caption.
     const QPointer<CRkProjectManagerView> alive(this);
+    const QPointer<CRkGraphicsProjectRectItem> tileAlive(tile);
     const auto keepScene = qScopeGuard([scene = m_scene, &alive] {
         if (!alive)
             QTimer::singleShot(0, qApp, [scene] {});
     });
     if (QString(newName).remove(QLatin1Char(' ')).isEmpty()) {
         WarningBox::show(tr("Rename Project"), tr("You must type a project name."));
-        if (!alive)
+        if (!alive || !tileAlive)
             return;
         const QString formerName = baseName(tile);
         tile->setToolTip(formerName);
@@ -225,7 +226,7 @@ void CRkProjectManagerView::slotRenameProjectItem(const QString& newName)
                          tr("The action can't be completed because the file is open in other "
                             "application or project name has been exist."));
     });
-    if (!alive)
+    if (!alive || !tileAlive)
         return;
     if (file.isEmpty()) {
         caption->SetPrjName(tile->GetProjectName());

@@ -20,7 +20,7 @@ QString make(const QString& base, const QStringList& projectFiles, const FileExi
     const QString pattern = base + QStringLiteral("_%1");
     QString candidate = base;
     for (int number = 1; taken.contains(candidate); ++number)
-        candidate = pattern.arg(number);
+        candidate = QString(pattern).replace(QLatin1String("%1"), QString::number(number));
     return candidate;
 }
 

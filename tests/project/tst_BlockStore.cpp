@@ -118,6 +118,7 @@ private slots:
     void rowWhoseBlockCannotBeLoaded();
     void projectIdThatIsAStatement();
     void blockInTheManagerStays();
+    void blocksAsLoadedOneByOne_data();
     void blocksAsLoadedOneByOne();
     void computedTables_data();
     void computedTables();
@@ -302,8 +303,22 @@ void tst_BlockStore::blockInTheManagerStays()
     QCOMPARE(taskIdsOf(*known), QStringList("other"));
 }
 
+void tst_BlockStore::blocksAsLoadedOneByOne_data()
+{
+    QTest::addColumn<QStringList>("statements");
+    QTest::newRow("our tables") << QStringList();
+    // Letter case then does not matter: each block has the tasks of the other, too.
+    QTest::newRow("a column with a collation")
+        << QStringList({"ALTER TABLE " + MissionTableName + " RENAME TO other",
+                        "CREATE TABLE " + MissionTableName
+                            + " (flight_task_guid TEXT, survey_block_id TEXT COLLATE NOCASE)",
+                        "INSERT INTO " + MissionTableName
+                            + " SELECT flight_task_guid, survey_block_id FROM other"});
+}
+
 void tst_BlockStore::blocksAsLoadedOneByOne()
 {
+    QFETCH(QStringList, statements);
     BlockFixture fixture{"Hill"};
     fixture.softwareVersion = "0.9.8";
     for (const char* id : {"a", "A", "1", "01", "it's", "测区", "a"})
@@ -315,6 +330,7 @@ void tst_BlockStore::blocksAsLoadedOneByOne()
                           " '30.' || rowid || ',104;30,105;31,105'",
                     "INSERT INTO " + SurveyAreaTableName
                         + " (survey_area_guid, project_id) VALUES (NULL, 'id-of-Hill')"}));
+    QVERIFY(runSql(file, statements));
 
     const auto project = BlockStore::load(file, "user-1");
     QCOMPARE(project->blocks.size(), fixture.blocks.size());

@@ -138,6 +138,14 @@ bool fillDisk(const QString& path, qint64 left)
 
 const QString hillId = QStringLiteral("id-of-Hill");
 const QByteArray flights = "the flights of Hill";
+const QByteArray otherFlights = "the flights of a deleted project";
+
+const QStringList newProject = {"new"};
+const QStringList copyHill = {"copy", "Hill"};
+const QStringList renameHill = {"rename", "Hill", "Vale"};
+/// Where it would go there are flights already.
+const QStringList renameHillInVain = {"rename", "Hill", "Glen"};
+const QStringList deleteHill = {"delete", "Hill"};
 
 } // namespace
 
@@ -192,6 +200,7 @@ void tst_ProjectFaults::writeProjects()
     const QString daleFile = ProjectFixture{"Dale"}.write(m_root);
     QVERIFY(!hillFile.isEmpty() && !daleFile.isEmpty());
     QVERIFY(writeFile(m_root + "Hill/Hill_flight.db", flights));
+    QVERIFY(QDir(m_root).mkdir("Glen") && writeFile(m_root + "Glen/Glen_flight.db", otherFlights));
     m_hill = readFile(hillFile);
     m_dale = readFile(daleFile);
 }
@@ -210,18 +219,17 @@ QString tst_ProjectFaults::damage(const QString& action) const
     if (const QString work = damageOfWork(action, projects); !work.isEmpty())
         return work;
 
-    const QStringList ends =
-        action == "rename" ? QStringList({"Hill", "Vale"}) : QStringList({"Hill"});
     int companions = 0;
-    for (const QString& name : ends)
+    for (const char* name : {"Hill", "Vale"})
         companions += readFile(m_root + name + '/' + name + "_flight.db") == flights;
-    if (companions != 1)
-        return "the flights are lost";
+    if (companions != 1 || readFile(m_root + "Glen/Glen_flight.db") != otherFlights)
+        return "flights are lost";
 
     // What may be left behind: an empty folder, a temporary file of a copy, a journal.
-    static const QRegularExpression known("^(Hill|Dale|Vale|New Project|copy of Hill)"
-                                          "(/(qt_temp\\.\\w+|(Hill|Dale|Vale|New Project|copy of "
-                                          "Hill)(\\.proj(-journal)?|_flight\\.db)))?$");
+    static const QRegularExpression known(
+        "^(Hill|Dale|Vale|Glen|New Project|copy of Hill)"
+        "(/(qt_temp\\.\\w+|(Hill|Dale|Vale|Glen|New Project|copy of "
+        "Hill)(\\.proj(-journal)?|_flight\\.db)))?$");
     const QStringList entries = content(m_root).keys();
     for (const QString& entry : entries) {
         if (!known.match(entry).hasMatch())
@@ -273,20 +281,22 @@ namespace {
 void addActions()
 {
     QTest::addColumn<QStringList>("action");
-    QTest::newRow("new") << QStringList({"new"});
-    QTest::newRow("copy") << QStringList({"copy", "Hill"});
-    QTest::newRow("rename") << QStringList({"rename", "Hill", "Vale"});
-    QTest::newRow("delete") << QStringList({"delete", "Hill"});
+    QTest::newRow("new") << newProject;
+    QTest::newRow("copy") << copyHill;
+    QTest::newRow("rename") << renameHill;
+    QTest::newRow("rename that is taken back") << renameHillInVain;
+    QTest::newRow("delete") << deleteHill;
 }
 
 /// The listed projects after an action that met no fault.
-QStringList namesAfter(const QString& action)
+QStringList namesAfter(const QStringList& action)
 {
-    const QMap<QString, QStringList> names = {
-        {"new", {"Dale", "Hill", "New Project"}},
-        {"copy", {"Dale", "Hill", "copy of Hill"}},
-        {"rename", {"Dale", "Vale"}},
-        {"delete", {"Dale"}},
+    const QMap<QStringList, QStringList> names = {
+        {newProject, {"Dale", "Hill", "New Project"}},
+        {copyHill, {"Dale", "Hill", "copy of Hill"}},
+        {renameHill, {"Dale", "Vale"}},
+        {renameHillInVain, {"Dale", "Hill"}},
+        {deleteHill, {"Dale"}},
     };
     return names.value(action);
 }
@@ -308,7 +318,7 @@ void tst_ProjectFaults::soundRuns()
     QCOMPARE(run.exitCode, 0);
     QVERIFY(run.calls > 0);
     QCOMPARE(damage(action.first()), QString());
-    QCOMPARE(QStringList(listed().keys()), namesAfter(action.first()));
+    QCOMPARE(QStringList(listed().keys()), namesAfter(action));
 }
 
 void tst_ProjectFaults::everyFault_data()
@@ -316,9 +326,8 @@ void tst_ProjectFaults::everyFault_data()
     QTest::addColumn<QStringList>("action");
     QTest::addColumn<int>("error");
     for (const QStringList& action :
-         {QStringList({"new"}), QStringList({"copy", "Hill"}),
-          QStringList({"rename", "Hill", "Vale"}), QStringList({"delete", "Hill"})}) {
-        const QByteArray name = action.first().toLatin1();
+         {newProject, copyHill, renameHill, renameHillInVain, deleteHill}) {
+        const QByteArray name = action.join(' ').toLatin1();
         QTest::newRow(name + ", killed") << action << 0;
         QTest::newRow(name + ", disk full") << action << ENOSPC;
     }
@@ -352,12 +361,10 @@ void tst_ProjectFaults::readOnlyRoot_data()
 {
     QTest::addColumn<QStringList>("action");
     QTest::addColumn<QStringList>("boxes");
-    QTest::newRow("new") << QStringList({"new"}) << QStringList();
-    QTest::newRow("copy") << QStringList({"copy", "Hill"}) << QStringList();
-    QTest::newRow("rename") << QStringList({"rename", "Hill", "Vale"})
-                            << QStringList("Rename Project");
-    QTest::newRow("delete") << QStringList({"delete", "Hill"})
-                            << QStringList({"Delete Project", "File In Use"});
+    QTest::newRow("new") << newProject << QStringList();
+    QTest::newRow("copy") << copyHill << QStringList();
+    QTest::newRow("rename") << renameHill << QStringList("Rename Project");
+    QTest::newRow("delete") << deleteHill << QStringList({"Delete Project", "File In Use"});
 }
 
 void tst_ProjectFaults::readOnlyRoot()
@@ -394,7 +401,8 @@ void tst_ProjectFaults::smallDisk()
         QCOMPARE(int(QStorageInfo(m_root).bytesAvailable()), left);
         const Run run = act(action, 0, 0);
         QCOMPARE(run.exitCode, 0);
-        QVERIFY(run.boxes.filter("Rename").isEmpty()); // A name takes no room.
+        // A name takes no room.
+        QCOMPARE(run.boxes.contains("Rename Project"), action == renameHillInVain);
         QVERIFY(QFile::remove(ballast));
         const QString found = damage(action.first());
         QVERIFY2(found.isEmpty(), qPrintable(QString("%1 bytes left: %2").arg(left).arg(found)));
@@ -402,7 +410,7 @@ void tst_ProjectFaults::smallDisk()
         if (left == 0 && (action.first() == "new" || action.first() == "copy"))
             QCOMPARE(names, QStringList({"Dale", "Hill"}));
         if (left == enough)
-            QCOMPARE(names, namesAfter(action.first()));
+            QCOMPARE(names, namesAfter(action));
     }
 }
 

@@ -315,6 +315,8 @@ private slots:
 
     void viewThatGoesDuringAMessage_data();
     void viewThatGoesDuringAMessage();
+    void tileThatGoesDuringAMessage_data();
+    void tileThatGoesDuringAMessage();
 
     void openSelected();
     void openWithoutSelection();
@@ -1550,6 +1552,40 @@ void tst_ProjectOperations::viewThatGoesDuringAMessage()
     QVERIFY(!view);
     m_answers->beforeAnswer = nullptr;
     QTEST(sortedNamesOf(CRkProjectManagerView(nullptr)), "projects");
+}
+
+void tst_ProjectOperations::tileThatGoesDuringAMessage_data()
+{
+    QTest::addColumn<QString>("newName");
+    QTest::newRow("rename to nothing") << " ";
+    QTest::newRow("rename onto another") << "Dale";
+}
+
+void tst_ProjectOperations::tileThatGoesDuringAMessage()
+{
+    QFETCH(QString, newName);
+    ProjectFixture{"Hill"}.write(m_root);
+    ProjectFixture{"Dale"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    view.show();
+    QApplication::setActiveWindow(&view);
+    view.setFocus();
+    QTRY_VERIFY(view.scene()->isActive());
+    QVERIFY(select(view, "Hill"));
+    const QPointer<Tile> tile = tileNamed(view, "Hill");
+    tile->GetTextItem()->setFocus();
+    QTRY_VERIFY(tile->GetTextItem()->hasFocus());
+    tile->GetTextItem()->setPlainText(newName);
+    // The host deletes the project while the user reads the message.
+    m_answers->beforeAnswer = [&] {
+        m_answers->beforeAnswer = nullptr;
+        view.slotDeleteProject();
+        QCoreApplication::sendPostedEvents(tile, QEvent::DeferredDelete);
+    };
+    QTest::keyClick(view.viewport(), Qt::Key_Return);
+    QCOMPARE(m_answers->boxes.size(), 2);
+    QVERIFY(!tile);
+    QCOMPARE(sortedNamesOf(view), QStringList{"Dale"});
 }
 
 void tst_ProjectOperations::openSelected()

@@ -40,7 +40,7 @@ QString literalName(const QString& base, const QStringList& files, const FileExi
         if (!names[i])
             return candidate;
         if (names[i] == candidate) {
-            candidate = pattern.arg(number++);
+            candidate = QString(pattern).replace("%1", QString::number(number++));
             i = 0;
         } else {
             ++i;
@@ -78,6 +78,7 @@ void tst_UniqueProjectName::make_data()
     QTest::newRow("letter case matters") << "Hill" << QStringList({"hill"}) << "Hill";
     QTest::newRow("dots belong to the name") << "a.b" << QStringList({"a.b", "a"}) << "a.b_1";
     QTest::newRow("the number fills every marker") << "A%1" << QStringList({"A%1"}) << "A1_1";
+    QTest::newRow("no other marker is filled") << "A%0%2" << QStringList({"A%0%2"}) << "A%0%2_1";
 }
 
 void tst_UniqueProjectName::make()

@@ -60,8 +60,8 @@ private:
              box.findChild<QLabel*>(QStringLiteral("Icon"))->pixmap(Qt::ReturnByValue).toImage(),
              box.findChild<QWidget*>(QStringLiteral("m_pBtnCancel"))->isHidden(),
              box.isWindow() && !box.parent() && box.isModal()});
-        if (beforeAnswer)
-            beforeAnswer();
+        if (const auto act = beforeAnswer) // It may set another, or none, for the next box.
+            act();
         box.findChild<QPushButton*>(button)->click();
     }
 };
