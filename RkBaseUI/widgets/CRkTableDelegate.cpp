@@ -5,6 +5,7 @@
 
 #include <QComboBox>
 #include <QDoubleSpinBox>
+#include <QKeyEvent>
 #include <QLineEdit>
 #include <QSignalBlocker>
 
@@ -17,6 +18,21 @@ constexpr int longestText = 1000000;
 
 /// Property of a spin box: whether it has reported a number since it was loaded.
 constexpr char isEdited[] = "isEdited";
+
+/// On Return the toolkit's spin box reports its number even when nobody has touched it.
+class NumberEditor : public QDoubleSpinBox
+{
+public:
+    using QDoubleSpinBox::QDoubleSpinBox;
+
+protected:
+    void keyPressEvent(QKeyEvent* event) override
+    {
+        const bool isReturn = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+        const QSignalBlocker blocker(isReturn && !lineEdit()->isModified() ? this : nullptr);
+        QDoubleSpinBox::keyPressEvent(event);
+    }
+};
 
 RkEditorDescriptor descriptorOfTexts(const QStringList& texts)
 {
@@ -89,7 +105,7 @@ QWidget* CRkTableDelegate::createEditor(QWidget* parent, const QStyleOptionViewI
     QWidget* editor = nullptr;
     switch (descriptor->kind) {
     case RkEditorDescriptor::SpinBox: {
-        auto* spinBox = new QDoubleSpinBox(parent);
+        auto* spinBox = new NumberEditor(parent);
         spinBox->setRange(0.0, 1e9);
         connect(spinBox, QOverload<double>::of(&QDoubleSpinBox::valueChanged), this,
                 &CRkTableDelegate::SpinBoxValueChanged);

@@ -182,7 +182,9 @@ private slots:
     void gridFillsTheTable();
     void gridChangesTheStage();
     void pointsInOrderOfTheirNames();
+    void gridBeforeInitWgt();
     void furtherGridAppends();
+    void laterRowOfANameCounts();
     void lowestOfAllGrids();
     void terrainAboveTheFirstLowest();
     void noCells();
@@ -193,6 +195,7 @@ private slots:
     void modesStayWhenTheLanguageChanges();
     void thirdModeInChinese();
     void editorInChinese();
+    void editorLeftAsItWas_data();
     void editorLeftAsItWas();
     void editorAfterAnotherMode();
     void fieldsOfSpinBoxChanged_data();
@@ -359,6 +362,8 @@ void tst_CRkVolumeWgt::formColours()
     QVERIFY(colorAt(image, {middle, 7}) != QColor(Qt::white));
     QCOMPARE(colorAt(image, {0, box.height() / 2}), QColor(Qt::white));
     QVERIFY2(colorAt(image, {0, 6}) != QColor(Qt::white), "the corner is round");
+    QCOMPARE(colorAt(image, {9, 6}), QColor(Qt::white));
+    QVERIFY2(colorAt(image, {10, 6}) != QColor(Qt::white), "there the title begins");
 }
 
 void tst_CRkVolumeWgt::namesForEverybody()
@@ -621,7 +626,31 @@ void tst_CRkVolumeWgt::furtherGridAppends()
     QCOMPARE(texts(*window, 0), QStringList({"P0", "10.00", "22.00", "22.00", "-12.00"}));
     QCOMPARE(texts(*window, 4), QStringList({"N0", "20.00", "22.00", "22.00", "-2.00"}));
     QCOMPARE(computed(*window).keys(), QStringList({"A", "B"}));
-    QCOMPARE(result(*window).section('\n', 0, 0), QString("Area:800.00m^2"));
+    QCOMPARE(result(*window), QString("Area:800.00m^2\nExcavation:200.00m^3\nFill:-3800.00m^3"));
+    design(*window).setCurrentIndex(1);
+    computed(*window);
+    QCOMPARE(result(*window), QString("Area:800.00m^2\nExcavation:5760.00m^3\nFill:0.00m^3"));
+}
+
+void tst_CRkVolumeWgt::laterRowOfANameCounts()
+{
+    const auto window = windowWith({10, 12, 14, 16});
+    window->slotGridPt(fourPoints("P", 0, {20, 20, 24, 24}), oneCell);
+    design(*window).setCurrentIndex(1); // Over 10: 10, 10, 14 and 14.
+    QCOMPARE(computed(*window).value("A").toList(), QVariantList({4800.0, 0.0}));
+}
+
+/// There is no mode yet that would write a design.
+void tst_CRkVolumeWgt::gridBeforeInitWgt()
+{
+    CRkVolumeWgt window(nullptr);
+    window.slotGridPt(fourPoints("P", 0, {10, 12, 14, 16}), oneCell);
+    QCOMPARE(texts(window, 1), QStringList({"P1", "12.00", "13.00", "", ""}));
+    QCOMPARE(computed(window).value("A").toList(), QVariantList({0.0, 0.0}));
+    window.InitWgt();
+    QCOMPARE(table(window).rowCount(), 0);
+    window.slotGridPt(fourPoints("P", 0, {10, 12, 14, 16}), oneCell);
+    QCOMPARE(texts(window, 1), QStringList({"P1", "12.00", "13.00", "13.00", "-1.00"}));
 }
 
 void tst_CRkVolumeWgt::lowestOfAllGrids()
@@ -717,6 +746,9 @@ void tst_CRkVolumeWgt::thirdModeUntranslated()
     window.slotGridPt(fourPoints("P", 0, {10, 12, 14, 16}), oneCell);
     QCOMPARE(texts(window, 1), QStringList({"P1", "12.00", "13.00", "", ""}));
     QCOMPARE(computed(window).value("A").toList(), QVariantList({0.0, 0.0}));
+    // One height, and three that are missing: a triangle of 20 x 20 x 6 / 6.
+    window.slotSpinBoxChanged(4, "0|3");
+    QCOMPARE(computed(window).value("A").toList(), QVariantList({400.0, 0.0}));
 }
 
 /// The window keeps the texts in which its modes are offered.
@@ -803,22 +835,41 @@ void tst_CRkVolumeWgt::editorInChinese()
 }
 
 /// The design elevation is below what the editor can show.
+void tst_CRkVolumeWgt::editorLeftAsItWas_data()
+{
+    QTest::addColumn<QList<double>>("elevations");
+    QTest::addColumn<int>("key");
+    for (const auto& key :
+         {std::make_pair("Tab", Qt::Key_Tab), std::make_pair("Return", Qt::Key_Return),
+          std::make_pair("Enter", Qt::Key_Enter)}) {
+        QTest::addRow("below the range, %s", key.first)
+            << QList<double>{-10, -12, -14, -16} << int(key.second);
+        // The average is 11.5025.
+        QTest::addRow("more digits than are shown, %s", key.first)
+            << QList<double>{10, 12, 14, 10.01} << int(key.second);
+    }
+}
+
 void tst_CRkVolumeWgt::editorLeftAsItWas()
 {
+    QFETCH(QList<double>, elevations);
+    QFETCH(int, key);
     const Chinese chinese;
-    const auto window = windowWith({-10, -12, -14, -16});
+    const auto window = windowWith(elevations);
     design(*window).setCurrentIndex(2);
     window->show();
     QVERIFY(comesOnScreen(window.get()));
     QTableWidget& points = table(*window);
     const auto before = allTexts(*window);
+    const QVariantMap volumes = computed(*window);
     points.setCurrentCell(2, 3);
     points.editItem(points.item(2, 3));
     auto* editor = points.viewport()->findChild<QDoubleSpinBox*>("2|3");
     QVERIFY(editor);
-    QTest::keyClick(editor, Qt::Key_Tab);
+    QTest::keyClick(editor, Qt::Key(key));
     QTRY_VERIFY(!points.viewport()->findChild<QDoubleSpinBox*>("2|3"));
     QCOMPARE(allTexts(*window), before);
+    QCOMPARE(computed(*window), volumes);
 }
 
 void tst_CRkVolumeWgt::editorAfterAnotherMode()
