@@ -37,8 +37,8 @@ QByteArray get(const QString& path, int limit)
     QTimer timer;
     timer.setTimerType(Qt::PreciseTimer); // A coarse one may be early by a twentieth.
     QNetworkAccessManager manager;
-    const QNetworkRequest request(
-        QUrl(QString::fromUtf8(GetServerIP()) + path, QUrl::TolerantMode));
+    QNetworkRequest request(QUrl(QString::fromUtf8(GetServerIP()) + path, QUrl::TolerantMode));
+    request.setRawHeader("Accept-Encoding", "identity"); // A packed reply unpacks without a limit.
     QNetworkReply* reply = manager.get(request); // The manager's child; it goes with it.
     reply->setReadBufferSize(largestReply);
     QObject::connect(&timer, &QTimer::timeout, &loop, &QEventLoop::quit);

@@ -29,6 +29,9 @@ CRkNoflyApplyUpload::~CRkNoflyApplyUpload()
 void CRkNoflyApplyUpload::BeginUpload(const QByteArray& document)
 {
     m_document = document;
+    // What a stopped upload has left on its way, a start or an end, is not this one's.
+    if (!m_worker->isRunning())
+        discardUpload();
     if (!m_upload)
         makeUpload();
     m_worker->start();

@@ -14,6 +14,8 @@
 
 namespace {
 
+constexpr qint64 largestReply = qint64(32) * 1024 * 1024;
+
 int& uploadTimeout()
 {
     static int milliseconds = 60000;
@@ -27,6 +29,7 @@ CRkUpLoadObject::CRkUpLoadObject(QObject* parent)
 {
     m_request.setHeader(QNetworkRequest::ContentTypeHeader,
                         QStringLiteral("application/x-www-form-urlencoded"));
+    m_request.setRawHeader("Accept-Encoding", "identity"); // A packed reply could be of any size.
 }
 
 CRkUpLoadObject::~CRkUpLoadObject() = default;
@@ -63,6 +66,10 @@ void CRkUpLoadObject::_post(const QNetworkRequest& request, const QByteArray& bo
     }
     QNetworkReply* reply = m_manager->post(request, body);
     connect(reply, &QNetworkReply::uploadProgress, this, &CRkUpLoadObject::uploadProgress);
+    connect(reply, &QNetworkReply::downloadProgress, reply, [reply](qint64 received) {
+        if (received > largestReply)
+            reply->abort();
+    });
     connect(reply, &QNetworkReply::finished, this, [this, reply] { _reportOutcome(reply); });
     connect(thread(), &QThread::finished, reply, [reply] {
         if (reply->error() == QNetworkReply::NoError) // Else it has ended, and only not said so.

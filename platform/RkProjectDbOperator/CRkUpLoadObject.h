@@ -52,8 +52,8 @@ Q_SIGNALS:
     void uploadProgress(qint64 sent, qint64 total);
     /// The service took the document (a status from 200 to 299); the body of its answer.
     void upLoadFinished(QByteArray reply);
-    /// The service could not be reached, stood still too long or refused the document. Redirections
-    /// are not followed and count as a refusal.
+    /// The service could not be reached, stood still too long, answered more than 32 MB or refused
+    /// the document. Redirections are not followed and count as a refusal.
     void NetWorkError();
     /// The service did not accept the user (status 401 or 403).
     void NoLogin();

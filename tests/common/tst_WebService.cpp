@@ -303,6 +303,9 @@ void tst_WebService::answersThatAreNone_data()
                                              R"({"status":-1,"data":{"center":[116.39,39.91]}})");
     QTest::newRow("compressed rubbish")
         << httpAnswer(200, "rubbish", -1, "Content-Encoding: gzip\r\n");
+    // However small, it could be of any size when it is unpacked.
+    QTest::newRow("compressed, though not asked for")
+        << httpAnswer(200, qCompress(centreReply).mid(4), -1, "Content-Encoding: deflate\r\n");
 }
 
 void tst_WebService::answersThatAreNone()

@@ -103,6 +103,8 @@ private slots:
     void beginWhileTheThreadRuns_data();
     void beginWhileTheThreadRuns();
     void beginAfterAFailure();
+    void beginAfterAStop_data();
+    void beginAfterAStop();
 
     void setUpLoadRet();
     void setUpLoadRetEndsARequest();
@@ -405,6 +407,36 @@ void tst_CRkNoflyApplyUpload::beginAfterAFailure()
     QTRY_COMPARE(accepted.count(), 1);
     QCOMPARE(m_server->requests.last().body, QByteArray("data={}"));
     QVERIFY(!window.isRetrying());
+}
+
+void tst_CRkNoflyApplyUpload::beginAfterAStop_data()
+{
+    QTest::addColumn<QString>("state");
+    QTest::addColumn<int>("requestsBefore");
+    QTest::newRow("start on its way") << "begun" << 0;
+    QTest::newRow("request under way") << "answer awaited" << 1;
+}
+
+/// What the stopped upload has still to say is not taken for the next one's.
+void tst_CRkNoflyApplyUpload::beginAfterAStop()
+{
+    QFETCH(QString, state);
+    QFETCH(int, requestsBefore);
+    const auto window = inState(state);
+    QVERIFY(window);
+    m_server->behaviour = PostServer::Answers;
+    const QSignalSpy accepted(window.get(), &QDialog::accepted);
+    window->SetUpLoadRet(false);
+    window->BeginUpload("{}");
+    QTRY_COMPARE(accepted.count(), 1);
+    QCOMPARE(m_server->requests.last().body, QByteArray("data={}"));
+    // Whatever else it sent would be there before what another sends after it.
+    CRkNoflyApplyUpload another(nullptr);
+    const QSignalSpy anotherAccepted(&another, &QDialog::accepted);
+    another.BeginUpload("another");
+    QTRY_COMPARE(anotherAccepted.count(), 1);
+    QCOMPARE(m_server->requests.size(), requestsBefore + 2);
+    QCOMPARE(accepted.count(), 1);
 }
 
 void tst_CRkNoflyApplyUpload::setUpLoadRet()

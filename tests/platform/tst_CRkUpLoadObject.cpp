@@ -2,6 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
 #include "support/PostServer.h"
+#include "support/RawServer.h"
 
 #include <RkProjectDbOperator/CRkUpLoadObject.h>
 #include <RkProjectDbOperator/ReferenceSettings.h>
@@ -102,6 +103,8 @@ private slots:
     void serviceThatHangsUp();
     void serviceThatSpeaksNoHttp();
     void serviceThatStandsStill();
+    void answerWithoutEnd();
+    void answerThatIsPacked();
     void withoutLimitOfTime_data();
     void withoutLimitOfTime();
     void signalsComeFromTheObjectsThread();
@@ -268,6 +271,35 @@ void tst_CRkUpLoadObject::serviceThatStandsStill()
     QTRY_COMPARE(upload.outcomes, QStringList("error"));
     upload.settle();
     QCOMPARE(upload.outcomes.size(), 1);
+}
+
+void tst_CRkUpLoadObject::answerWithoutEnd()
+{
+    RawServer service;
+    service.answer = "HTTP/1.1 200 OK\r\n\r\n";
+    service.refrain = QByteArray(1024 * 1024, ' ');
+    Upload upload;
+    upload.post(service.address() + "/", "data=x");
+    QTRY_VERIFY(!upload.outcomes.isEmpty());
+    upload.settle();
+    QCOMPARE(upload.outcomes, QStringList("error"));
+    // The buffers on its way, the toolkit's and the system's, hold as much again and more.
+    constexpr qint64 most = 128 * 1024 * 1024;
+    QVERIFY2(service.refrainsTaken < most, qPrintable(QString::number(service.refrainsTaken)));
+}
+
+/// It stays packed: however small, it could be of any size.
+void tst_CRkUpLoadObject::answerThatIsPacked()
+{
+    PostServer service;
+    const QByteArray packed = qCompress("body").mid(4);
+    service.answer = "HTTP/1.1 200 OK\r\nContent-Encoding: deflate\r\nContent-Length: "
+        + QByteArray::number(packed.size()) + "\r\n\r\n" + packed;
+    Upload upload;
+    upload.post(service.url(), "data=x");
+    QTRY_COMPARE(upload.outcomes, QStringList("finished"));
+    QCOMPARE(upload.replies.first(), packed);
+    QVERIFY(service.requests.first().head.contains("Accept-Encoding: identity"));
 }
 
 void tst_CRkUpLoadObject::withoutLimitOfTime_data()
