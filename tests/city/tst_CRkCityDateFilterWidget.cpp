@@ -546,6 +546,10 @@ void tst_CRkCityDateFilterWidget::switchingOffDoesNothing()
     bar.dateButton().setChecked(true);
     bar.slotDateBtnToggled(false);
     QVERIFY(bar.agree(false, true));
+    bar.datePopup().close();
+    bar.cityButton().setChecked(true);
+    bar.slotCityBtnToggled(false);
+    QVERIFY(bar.agree(true, false));
 }
 
 void tst_CRkCityDateFilterWidget::cityIsPicked()

@@ -244,6 +244,9 @@ void tst_CRkCitySelectWidget::form()
     QCOMPARE(width("pushButtonGroupCityByLetter"), 70);
     QCOMPARE(width("pushButtonSearchCity"), 60);
     QCOMPARE(width("pushButtonSetDefaultCity"), 100);
+    for (const char* name : {"pushButtonGroupCityByProvince", "pushButtonGroupCityByLetter",
+                             "pushButtonSearchCity", "pushButtonSetDefaultCity"})
+        QCOMPARE(picker.button(name).maximumWidth(), width(name));
 }
 
 void tst_CRkCitySelectWidget::texts_data()
