@@ -15,7 +15,7 @@ QString selectComputedTables(const QStringList& tables)
         columns += " union all select 1 from pragma_table_xinfo(" + name + ") where hidden>1";
     }
     return "select 1 from sqlite_master where name collate nocase in (" + names.join(',')
-        + ") and rootpage=0" + columns;
+        + ") and rootpage=0 and type<>'trigger'" + columns;
 }
 
 } // namespace TableSql

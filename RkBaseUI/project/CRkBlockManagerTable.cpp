@@ -8,6 +8,8 @@
 
 #include <RkAlgorthm/RkAlgorthm.h>
 
+#include <QScrollBar>
+
 #include <optional>
 #include <vector>
 
@@ -38,6 +40,10 @@ CRkBlockManagerTable::CRkBlockManagerTable(QWidget* parent)
         connect(button, &QPushButton::clicked, this, &CRkBlockManagerTable::slotHeaderClicked);
     connect(m_ui->treeWidgetBlocks, &QTreeWidget::itemDoubleClicked, this,
             &CRkBlockManagerTable::slotItemDoubleClicked);
+    // Beside a vertical scroll bar there is less room than the columns take; scrolled aside they
+    // would not stand below their header buttons.
+    QScrollBar* sideways = m_ui->treeWidgetBlocks->horizontalScrollBar();
+    connect(sideways, &QScrollBar::valueChanged, this, [sideways] { sideways->setValue(0); });
 }
 
 CRkBlockManagerTable::~CRkBlockManagerTable() = default;
@@ -45,6 +51,7 @@ CRkBlockManagerTable::~CRkBlockManagerTable() = default;
 void CRkBlockManagerTable::Clear()
 {
     m_ui->treeWidgetBlocks->clear();
+    m_ui->treeWidgetBlocks->scrollToTop();
     m_disabledItems.clear();
     m_idOfItem.clear();
 }

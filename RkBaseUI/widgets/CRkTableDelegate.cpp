@@ -67,6 +67,17 @@ Editor* editorOf(QWidget* editor, const QModelIndex& index, RkEditorDescriptor::
     return descriptor && descriptor->kind == kind ? qobject_cast<Editor*>(editor) : nullptr;
 }
 
+/// The toolkit does not report a typed number that equals the loaded one, which may be another than
+/// the cell's.
+void takeTypedNumber(QDoubleSpinBox& spinBox)
+{
+    const bool isTyped =
+        spinBox.findChild<QLineEdit*>()->isModified() && spinBox.hasAcceptableInput();
+    spinBox.interpretText();
+    if (isTyped && !spinBox.property(isEdited).toBool())
+        emit spinBox.valueChanged(spinBox.value());
+}
+
 void selectValue(QComboBox& comboBox, const QVariant& value)
 {
     int entry =
@@ -155,7 +166,7 @@ void CRkTableDelegate::setModelData(QWidget* editor, QAbstractItemModel* model,
                                     const QModelIndex& index) const
 {
     if (auto* spinBox = editorOf<QDoubleSpinBox>(editor, index, RkEditorDescriptor::SpinBox)) {
-        spinBox->interpretText();
+        takeTypedNumber(*spinBox);
         // A cell that was only opened keeps its number, which the range may not have.
         if (spinBox->property(isEdited).toBool())
             model->setData(index, spinBox->value(), Qt::EditRole);

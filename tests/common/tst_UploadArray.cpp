@@ -131,6 +131,11 @@ void tst_UploadArray::documents_data()
 
     QTest::newRow("no project") << QStringList() << QByteArray("{}");
     QTest::newRow("nothing but the project") << QStringList{project("'p'", "A")} << head;
+    QTest::newRow("trigger that is named like its table")
+        << QStringList{project("'p'", "A"),
+                       "CREATE TRIGGER " + ProjectTableName + " AFTER INSERT ON " + ProjectTableName
+                           + " BEGIN SELECT 1; END"}
+        << head;
     QTest::newRow("block without tasks")
         << QStringList{project("'p'", "A"), block("'1'", "b", "p")}
         << QByteArray(R"({"blocks":[{"id":"1","project_id":"p","survey_area_guid":"b"}],)"
@@ -256,8 +261,8 @@ void tst_UploadArray::missingTablesAndColumns()
     QCOMPARE(GetUploadArray(newFile(tables.mid(0, 2) + rows)),
              QByteArray(R"({"blocks":[{"id":"1","project_id":"p","survey_area_guid":"b"}],)"
                         R"("id":"p","map_scale":500,"project_name":"A"})"));
-    QCOMPARE(GetUploadArray(newFile({"CREATE TABLE project (project_name TEXT)",
-                                     "INSERT INTO project VALUES ('A')"})),
+    QCOMPARE(GetUploadArray(newFile(
+                 {"CREATE TABLE project (project_name TEXT)", "INSERT INTO project VALUES ('A')"})),
              QByteArray("{}"));
 }
 

@@ -103,6 +103,7 @@ private slots:
     void beginWhileTheThreadRuns_data();
     void beginWhileTheThreadRuns();
     void beginAfterAFailure();
+    void beginWhenAccepted();
     void beginAfterAStop_data();
     void beginAfterAStop();
 
@@ -407,6 +408,21 @@ void tst_CRkNoflyApplyUpload::beginAfterAFailure()
     QTRY_COMPARE(accepted.count(), 1);
     QCOMPARE(m_server->requests.last().body, QByteArray("data={}"));
     QVERIFY(!window.isRetrying());
+}
+
+/// The thread has stopped by then, so that the next document goes out at once.
+void tst_CRkNoflyApplyUpload::beginWhenAccepted()
+{
+    CRkNoflyApplyUpload window(nullptr);
+    const QSignalSpy accepted(&window, &QDialog::accepted);
+    connect(&window, &QDialog::accepted, &window, [&] {
+        if (accepted.count() == 1)
+            window.BeginUpload("{}");
+    });
+    window.BeginUpload(json);
+    QTRY_COMPARE(accepted.count(), 2);
+    QCOMPARE(m_server->requests.size(), 2);
+    QCOMPARE(m_server->requests.last().body, QByteArray("data={}"));
 }
 
 void tst_CRkNoflyApplyUpload::beginAfterAStop_data()

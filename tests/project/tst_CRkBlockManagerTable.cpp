@@ -9,6 +9,7 @@
 
 #include <QHeaderView>
 #include <QPushButton>
+#include <QScrollBar>
 #include <QSignalSpy>
 #include <QTranslator>
 #include <QTreeWidget>
@@ -121,6 +122,8 @@ private slots:
     void columnWidths_data();
     void columnWidths();
     void widthsShrinkInALayout();
+    void columnsStayBelowTheirHeaders();
+    void newRowsAreShownFromTheFirst();
     void tenThousandRows();
     void colours();
 };
@@ -457,6 +460,41 @@ void tst_CRkBlockManagerTable::widthsShrinkInALayout()
     window.resize(600, 400);
     QTRY_COMPARE(table->header(0).width(), 120);
     QCOMPARE(table->tree().columnWidth(4), 120);
+}
+
+/// More rows than there is room for.
+void tst_CRkBlockManagerTable::columnsStayBelowTheirHeaders()
+{
+    Table table;
+    for (int i = 0; i < 60; ++i)
+        table.add(QString::number(100 + i));
+    table.FinishLoad();
+    table.resize(800, 400);
+    table.show();
+    QVERIFY(comesOnScreen(&table));
+    QVERIFY(table.tree().verticalScrollBar()->isVisible());
+    table.tree().setCurrentItem(table.row(0), 4);
+    QTest::keyClick(&table.tree(), Qt::Key_Right);
+    QCOMPARE(table.tree().visualItemRect(table.row(0)).x(), 0);
+    table.tree().horizontalScrollBar()->setValue(5);
+    QCOMPARE(table.tree().visualItemRect(table.row(0)).x(), 0);
+}
+
+void tst_CRkBlockManagerTable::newRowsAreShownFromTheFirst()
+{
+    Table table;
+    table.resize(800, 400);
+    table.show();
+    QVERIFY(comesOnScreen(&table));
+    for (const int count : {60, 80}) {
+        table.Clear();
+        for (int i = 0; i < count; ++i)
+            table.add(QString::number(100 + i));
+        table.FinishLoad();
+        QTRY_VERIFY(table.tree().verticalScrollBar()->maximum() > 0);
+        QCOMPARE(table.tree().verticalScrollBar()->value(), 0);
+        table.tree().scrollToBottom();
+    }
 }
 
 void tst_CRkBlockManagerTable::tenThousandRows()

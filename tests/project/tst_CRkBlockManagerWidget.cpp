@@ -111,6 +111,7 @@ private slots:
     void loadedBlocksStayInTheManager();
     void projectInfo();
     void projectNameIsPlainText();
+    void modifiedTimeIsPlainText();
     void projectWithoutBlocks();
     void projectOfAnotherUser();
     void projectNameStaysWithoutAProject();
@@ -292,8 +293,34 @@ void tst_CRkBlockManagerWidget::projectNameIsPlainText()
     QCOMPARE(page.findChild<QLabel*>("labelProjectNameOpeningBlocks")->textFormat(), Qt::PlainText);
     QVERIFY(runSql(
         file, {"UPDATE " + ProjectTableName + " SET project_name='" + QString(5000, 'W') + "'"}));
+    page.show();
+    QVERIFY(comesOnScreen(&page));
     QVERIFY(page.LoadExistBlocks(file));
+    QCoreApplication::processEvents();
     QVERIFY2(page.minimumSizeHint().width() < 960, "a long name does not widen the page");
+}
+
+void tst_CRkBlockManagerWidget::modifiedTimeIsPlainText()
+{
+    const QString file = hill().write(root());
+    Page page;
+    page.resize(960, 568);
+    page.show();
+    QVERIFY(comesOnScreen(&page));
+    QVERIFY(page.LoadExistBlocks(file));
+    QCoreApplication::processEvents();
+    const QSize smallest = page.minimumSizeHint();
+    for (const QString& modified :
+         {QString("<h1>big</h1>"), QString(5000, 'W'), QString("a\nb\nc")}) {
+        QVERIFY(
+            runSql(file, {"UPDATE " + ProjectTableName + " SET updated_at='" + modified + "'"}));
+        QVERIFY(page.LoadExistBlocks(file));
+        QCoreApplication::processEvents();
+        QCOMPARE(page.label("labelModifiedTime"), modified);
+        QCOMPARE(page.minimumSizeHint().height(), smallest.height());
+        QCOMPARE(page.size(), QSize(960, 568));
+    }
+    QCOMPARE(page.findChild<QLabel*>("labelModifiedTime")->textFormat(), Qt::PlainText);
 }
 
 void tst_CRkBlockManagerWidget::projectWithoutBlocks()
@@ -611,6 +638,8 @@ void tst_CRkBlockManagerWidget::fileRemovedWhileOpen()
     QVERIFY(!page.LoadExistBlocks(file));
     QCOMPARE(page.tree().topLevelItemCount(), 0);
     QVERIFY(!QFileInfo::exists(root() + "Hill"));
+    page.button("pushButtonSearch").click();
+    QVERIFY2(page.names() == "north,North,south", "a load that fails forgets the search, too");
     page.search("south");
     QVERIFY2(page.names() == "south", "what was loaded before is still found");
 }

@@ -197,6 +197,8 @@ private slots:
     void editorInChinese();
     void editorLeftAsItWas_data();
     void editorLeftAsItWas();
+    void loadedNumberThatIsTyped_data();
+    void loadedNumberThatIsTyped();
     void editorAfterAnotherMode();
     void fieldsOfSpinBoxChanged_data();
     void fieldsOfSpinBoxChanged();
@@ -329,6 +331,7 @@ void tst_CRkVolumeWgt::formColours_data()
 void tst_CRkVolumeWgt::formColours()
 {
     QFETCH(int, scale);
+    QCursor::setPos(0, 0); // The system's own pointer stays out of the way.
     CRkVolumeWgt window(nullptr);
     window.InitWgt();
     window.slotGridPt({}, {});
@@ -828,10 +831,55 @@ void tst_CRkVolumeWgt::editorInChinese()
     QCOMPARE(computed(*window).value("A").toList(),
              QVariantList({expected.excavation, expected.fill}));
 
-    // Once more, with what is in the cell now.
+    // Once more, with what is in the cell now. Escape takes back nothing but the cell.
     editor = openEditor();
     QVERIFY(editor);
     QCOMPARE(editor->value(), 9.5);
+    editor->setValue(3);
+    QTest::keyClick(editor, Qt::Key_Escape);
+    QTRY_VERIFY(!points.viewport()->findChild<QDoubleSpinBox*>("2|3"));
+    QVERIFY(window->isVisible());
+    QCOMPARE(texts(*window, 2), QStringList({"P2", "14.00", "13.00", "9.5", "11.00"}));
+    const rk::CellVolume after = rk::cellVolume({-3, -1, 11, 3}, 20);
+    QCOMPARE(computed(*window).value("A").toList(), QVariantList({after.excavation, after.fill}));
+}
+
+void tst_CRkVolumeWgt::loadedNumberThatIsTyped_data()
+{
+    QTest::addColumn<bool>("isEmpty");
+    QTest::addColumn<int>("key");
+    for (const auto& key :
+         {std::make_pair("Tab", Qt::Key_Tab), std::make_pair("Return", Qt::Key_Return)}) {
+        QTest::addRow("below the range, %s", key.first) << false << int(key.second);
+        QTest::addRow("nothing yet, %s", key.first) << true << int(key.second);
+    }
+}
+
+/// The editor begins with 0, where the cell has another number or none.
+void tst_CRkVolumeWgt::loadedNumberThatIsTyped()
+{
+    QFETCH(bool, isEmpty);
+    QFETCH(int, key);
+    const Chinese chinese;
+    const auto window = std::make_unique<CRkVolumeWgt>(nullptr);
+    window->InitWgt();
+    if (isEmpty)
+        design(*window).setCurrentIndex(2);
+    window->slotGridPt(fourPoints("P", 0, {-10, -12, -14, -16}), oneCell);
+    design(*window).setCurrentIndex(2);
+    window->show();
+    QVERIFY(comesOnScreen(window.get()));
+    QTableWidget& points = table(*window);
+    points.setCurrentCell(2, 3);
+    points.editItem(points.item(2, 3));
+    auto* editor = points.viewport()->findChild<QDoubleSpinBox*>("2|3");
+    QVERIFY(editor);
+    editor->selectAll();
+    QTest::keyClick(editor, Qt::Key_0);
+    QTest::keyClick(editor, Qt::Key(key));
+    QTRY_VERIFY(!points.viewport()->findChild<QDoubleSpinBox*>("2|3"));
+    QCOMPARE(points.item(2, 3)->data(Qt::EditRole), QVariant(0.0));
+    QCOMPARE(points.item(2, 4)->text(), QString("-14.00"));
 }
 
 /// The design elevation is below what the editor can show.
