@@ -119,7 +119,6 @@ CRkCitySelectWidget::CRkCitySelectWidget(QWidget* parent)
 
     const QString stored = citySettings().value(defaultCityKey()).toString();
     m_ui->labelCurrentCity->setText(stored.isEmpty() ? tr("All") : stored);
-    m_ui->lineEditSearchCity->setFocus();
 }
 
 CRkCitySelectWidget::~CRkCitySelectWidget() = default;
@@ -127,6 +126,8 @@ CRkCitySelectWidget::~CRkCitySelectWidget() = default;
 void CRkCitySelectWidget::InitWidget()
 {
     m_ui->tabWidget->setCurrentIndex(provinceTab);
+    m_ui->lineEditSearchCity->setFocus();
+    m_ui->lineEditSearchCity->selectAll();
 }
 
 QString CRkCitySelectWidget::getDefaultSelection() const

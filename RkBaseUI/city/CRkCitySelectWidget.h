@@ -33,7 +33,7 @@ public:
     explicit CRkCitySelectWidget(QWidget* parent = nullptr);
     ~CRkCitySelectWidget() override;
 
-    /// Shows the provinces; to be called before each showing.
+    /// Shows the provinces, with the focus on the keyword; to be called before each showing.
     void InitWidget();
 
     /// The current pick: at first the default city of the settings as it stands there, known to the

@@ -108,6 +108,7 @@ void CRkProjectManagerDialog::slotMaxSwitch()
         showNormal();
     else
         showFullScreen();
+    m_ui->pushButtonMaxWindow->setChecked(isFullScreen()); // Also when the host has called.
 }
 
 void CRkProjectManagerDialog::slotHelp()

@@ -29,9 +29,9 @@
 #include <QPointer>
 #include <QScopeGuard>
 #include <QScrollBar>
-#include <QTimer>
 
 #include <algorithm>
+#include <utility>
 #include <vector>
 
 namespace {
@@ -52,6 +52,19 @@ QString baseName(const CRkGraphicsProjectRectItem* tile)
 {
     return QFileInfo(tile->GetProjectFilePath()).completeBaseName();
 }
+
+/// Keeps a scene until it is deleted itself.
+class SceneKeeper : public QObject
+{
+public:
+    explicit SceneKeeper(std::shared_ptr<QGraphicsScene> scene)
+        : m_scene(std::move(scene))
+    {
+    }
+
+private:
+    const std::shared_ptr<QGraphicsScene> m_scene;
+};
 
 } // namespace
 
@@ -119,8 +132,10 @@ void CRkProjectManagerView::slotCopyProject()
     if (copy.isEmpty())
         return;
     AddProjectItem(defaultThumbnail(), copy, false);
+    const QPointer<CRkProjectManagerView> alive(this);
     emit projectCopied();
-    verticalScrollBar()->setValue(verticalScrollBar()->maximum());
+    if (alive) // A host may have closed the page, or a message that came up have given it the time.
+        verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
 
 void CRkProjectManagerView::slotDeleteProject()
@@ -206,7 +221,7 @@ void CRkProjectManagerView::slotRenameProjectItem(const QString& newName)
     const QPointer<CRkGraphicsProjectRectItem> tileAlive(tile);
     const auto keepScene = qScopeGuard([scene = m_scene, &alive] {
         if (!alive)
-            QTimer::singleShot(0, qApp, [scene] {});
+            (new SceneKeeper(scene))->deleteLater();
     });
     if (QString(newName).remove(QLatin1Char(' ')).isEmpty()) {
         WarningBox::show(tr("Rename Project"), tr("You must type a project name."));

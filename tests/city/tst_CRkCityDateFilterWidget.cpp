@@ -242,6 +242,7 @@ private slots:
     void popupHangsUnderTheButton();
     void popupFollowsTheBar();
     void cityPopupIsMadeReady();
+    void keysGoToTheKeyword();
     void switchingOffDoesNothing();
     void cityIsPicked();
     void dateIsPicked();
@@ -533,6 +534,23 @@ void tst_CRkCityDateFilterWidget::cityPopupIsMadeReady()
     QCOMPARE(bar.cityPopup().maximumHeight(), 600);
     QTRY_COMPARE(QGuiApplication::focusWindow(), bar.cityPopup().windowHandle());
     QVERIFY(!bar.datePopup().isVisible());
+}
+
+void tst_CRkCityDateFilterWidget::keysGoToTheKeyword()
+{
+    Window window;
+    QVERIFY(window.open());
+    Bar& bar = *window.bar;
+    const auto& keyword = *bar.cityPopup().findChild<QLineEdit*>("lineEditSearchCity");
+    for (const char* word : {"zhou", "an"}) { // The second takes the place of the first.
+        bar.slotCityBtnToggled(true);
+        QTRY_COMPARE(QGuiApplication::focusWindow(), bar.cityPopup().windowHandle());
+        for (const char* letter = word; *letter; ++letter)
+            QTest::keyClick(bar.cityPopup().windowHandle(), *letter);
+        QCOMPARE(keyword.text(), QString(word));
+        QTest::keyClick(bar.cityPopup().windowHandle(), Qt::Key_Tab);
+        bar.cityPopup().close();
+    }
 }
 
 void tst_CRkCityDateFilterWidget::switchingOffDoesNothing()

@@ -22,6 +22,7 @@
 #include <QLineEdit>
 #include <QProcess>
 #include <QPushButton>
+#include <QScopeGuard>
 #include <QScrollArea>
 #include <QScrollBar>
 #include <QSettings>
@@ -158,6 +159,7 @@ private slots:
     void looks();
     void textColours_data();
     void textColours();
+    void labelsAreDark();
     void tabKeyFollowsTheForm();
     void letterRows();
     void provincePages();
@@ -326,6 +328,23 @@ void tst_CRkCitySelectWidget::textColours()
             pixels += image.pixelColor(x, y) == colour;
     }
     QVERIFY2(pixels > 150, qPrintable(QString::number(pixels)));
+}
+
+/// The ground is light whatever the colours of the system.
+void tst_CRkCitySelectWidget::labelsAreDark()
+{
+    const auto restore =
+        qScopeGuard([palette = QApplication::palette()] { QApplication::setPalette(palette); });
+    QApplication::setPalette(QPalette(Qt::darkGray, Qt::black));
+    const Picker picker;
+    QCOMPARE(picker.palette().color(QPalette::WindowText), QColor(Qt::white));
+    const QList<QLabel*> labels = picker.findChildren<QLabel*>();
+    QVERIFY(labels.size() > 20);
+    for (const QLabel* label : labels) {
+        label->ensurePolished();
+        QVERIFY2(label->palette().color(label->foregroundRole()).lightness() < 100,
+                 qPrintable(label->objectName()));
+    }
 }
 
 void tst_CRkCitySelectWidget::tabKeyFollowsTheForm()

@@ -19,6 +19,7 @@
 #include <QLineEdit>
 #include <QPushButton>
 #include <QRandomGenerator>
+#include <QScopeGuard>
 #include <QSignalSpy>
 #include <QTreeWidget>
 #include <QtTest>
@@ -107,6 +108,7 @@ private slots:
     void texts_data();
     void texts();
     void styles();
+    void labelsOfTheStatusBarAreDark();
     void load();
     void loadedBlocksStayInTheManager();
     void projectInfo();
@@ -236,6 +238,24 @@ void tst_CRkBlockManagerWidget::styles()
              QString("background-color:rgb(255,255,255);"));
     QCOMPARE(page.button("pushButtonSearch").text(), QString("Search"));
     QVERIFY(page.button("pushButtonBackToProjectManager").text().isEmpty());
+}
+
+/// The status bar is white whatever the colours of the system.
+void tst_CRkBlockManagerWidget::labelsOfTheStatusBarAreDark()
+{
+    const auto restore =
+        qScopeGuard([palette = QApplication::palette()] { QApplication::setPalette(palette); });
+    QApplication::setPalette(QPalette(Qt::darkGray, Qt::black));
+    const Page page;
+    QCOMPARE(page.palette().color(QPalette::WindowText), QColor(Qt::white));
+    const QList<QLabel*> labels =
+        page.findChild<QWidget*>("widgetStatusBar")->findChildren<QLabel*>();
+    QCOMPARE(labels.size(), 10);
+    for (const QLabel* label : labels) {
+        label->ensurePolished();
+        QVERIFY2(label->palette().color(label->foregroundRole()).lightness() < 100,
+                 qPrintable(label->objectName()));
+    }
 }
 
 void tst_CRkBlockManagerWidget::load()

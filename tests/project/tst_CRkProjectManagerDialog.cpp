@@ -394,6 +394,10 @@ void tst_CRkProjectManagerDialog::fullScreen()
     QTRY_COMPARE(dialog.size(), QSize(960, 600));
     QVERIFY(dialog.isVisible());
     QVERIFY(!button.isChecked());
+    dialog.slotMaxSwitch(); // As a host may.
+    QVERIFY(button.isChecked());
+    dialog.slotMaxSwitch();
+    QVERIFY(!button.isChecked());
 }
 
 void tst_CRkProjectManagerDialog::closeButton()

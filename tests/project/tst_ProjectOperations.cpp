@@ -164,6 +164,7 @@ private:
 };
 
 const char* const holdOption = "--hold";
+const char* const endOption = "--end";
 
 /// This program once more, which holds the file until its input ends.
 class ProcessHolder : public Holder
@@ -195,6 +196,23 @@ int holdFile(const QString& path)
     std::puts("open");
     std::fflush(stdout);
     return std::getchar() == EOF ? 0 : 1;
+}
+
+/// A program that ends, with the view, while a message of the view is up.
+int endDuringAMessage()
+{
+    auto view = std::make_unique<CRkProjectManagerView>(nullptr);
+    BoxAnswerer answers;
+    answers.beforeAnswer = [&view] {
+        view.reset();
+        QCoreApplication::quit();
+    };
+    view->show();
+    if (!comesOnScreen(view.get()))
+        return 1;
+    // By a timer of its own: behind a posted event the loop would still handle all others.
+    QTimer::singleShot(1, qApp, [&view] { rename(*view, "Hill", " "); });
+    return QCoreApplication::exec();
 }
 
 using MakeHolder = std::unique_ptr<Holder> (*)(const QString& file);
@@ -299,6 +317,7 @@ private slots:
     void renameThatCannotBeTakenBack();
     void renameOfAMissingFile();
     void renameOfATileThatIsGone();
+    void renameOfAHiddenTile();
     void renameWithoutASender();
     void renameToOddNames_data();
     void renameToOddNames();
@@ -315,6 +334,8 @@ private slots:
 
     void viewThatGoesDuringAMessage_data();
     void viewThatGoesDuringAMessage();
+    void viewThatGoesWithACopy();
+    void programThatEndsDuringAMessage();
     void tileThatGoesDuringAMessage_data();
     void tileThatGoesDuringAMessage();
 
@@ -583,14 +604,15 @@ void tst_ProjectOperations::copyOntoAnExistingFile()
 
 void tst_ProjectOperations::copyOfAMissingFile()
 {
-    const QString file = ProjectFixture{"Hill"}.write(m_root);
+    ProjectFixture{"Hill"}.write(m_root);
     CRkProjectManagerView view(nullptr);
     QSignalSpy copied(&view, &CRkProjectManagerView::projectCopied);
     QVERIFY(select(view, "Hill"));
-    QVERIFY(QFile::remove(file));
+    QVERIFY(QDir(m_root + "Hill").removeRecursively());
     view.slotCopyProject();
     QCOMPARE(copied.count(), 0);
-    QCOMPARE(content(m_root).keys(), QStringList{"Hill"});
+    QCOMPARE(content(m_root).keys(), QStringList());
+    QVERIFY2(QDir(m_root).exists(), "the root stays though it is empty");
     QCOMPARE(sortedNamesOf(view), QStringList{"Hill"});
     QVERIFY(m_answers->boxes.isEmpty());
 }
@@ -1285,6 +1307,20 @@ void tst_ProjectOperations::renameOfAMissingFile()
     QVERIFY(m_answers->boxes.isEmpty());
     QCOMPARE(content(m_root).keys(), QStringList{"Hill"});
     QCOMPARE(sortedNamesOf(view), QStringList{"Hill"});
+    rename(view, "Hill", " ");
+    QVERIFY2(m_answers->texts() == QStringList("You must type a project name."),
+             "the name is looked at first");
+}
+
+void tst_ProjectOperations::renameOfAHiddenTile()
+{
+    ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    Tile* tile = tileNamed(view, "Hill");
+    view.slotFilterConditionChanged({}, {}, {}, "none");
+    QVERIFY(!tile->scene());
+    emit tile->GetTextItem()->editFinished("Dale");
+    QCOMPARE(sortedNamesOf(CRkProjectManagerView(nullptr)), QStringList{"Dale"});
 }
 
 void tst_ProjectOperations::renameWithoutASender()
@@ -1308,6 +1344,7 @@ void tst_ProjectOperations::renameToOddNames_data()
     QTest::newRow("emoji") << QString::fromUtf8("山丘 🛩") << true;
     QTest::newRow("dots") << "v1.2.final" << true;
     QTest::newRow("leading dot") << ".Hill" << true;
+    QTest::newRow("tab alone") << "\t" << !isWindows;
     QTest::newRow("trailing dot") << "Dale." << !isWindows;
     QTest::newRow("blank and dot") << "Dale ." << !isWindows;
     QTest::newRow("dots alone") << "..." << !isWindows;
@@ -1561,6 +1598,28 @@ void tst_ProjectOperations::viewThatGoesDuringAMessage()
     QTEST(sortedNamesOf(CRkProjectManagerView(nullptr)), "projects");
 }
 
+void tst_ProjectOperations::viewThatGoesWithACopy()
+{
+    ProjectFixture{"Hill"}.write(m_root);
+    auto view = std::make_unique<CRkProjectManagerView>(nullptr);
+    connect(view.get(), &CRkProjectManagerView::projectCopied, this, [&view] { view.reset(); });
+    QVERIFY(select(*view, "Hill"));
+    view->slotCopyProject();
+    QVERIFY(!view);
+    QCOMPARE(sortedNamesOf(CRkProjectManagerView(nullptr)), QStringList({"Hill", "copy of Hill"}));
+}
+
+void tst_ProjectOperations::programThatEndsDuringAMessage()
+{
+    ProjectFixture{"Hill"}.write(m_root);
+    QProcess program;
+    program.start(QCoreApplication::applicationFilePath(), {endOption});
+    QVERIFY2(program.waitForFinished(), "it does not end");
+    QCOMPARE(program.exitStatus(), QProcess::NormalExit);
+    QCOMPARE(program.exitCode(), 0);
+    QCOMPARE(sortedNamesOf(CRkProjectManagerView(nullptr)), QStringList{"Hill"});
+}
+
 void tst_ProjectOperations::tileThatGoesDuringAMessage_data()
 {
     QTest::addColumn<QString>("newName");
@@ -1672,7 +1731,14 @@ void tst_ProjectOperations::messagesAreTranslated()
     view.slotCopyProject();
     QCOMPARE(sortedNamesOf(view), QStringList({"Hill", "[copy of ]Hill"}));
     view.slotNewProject();
-    QVERIFY(tileNamed(view, "[New Project]"));
+    QVERIFY(select(view, "[New Project]"));
+    m_answers->button = "m_pBtnOK";
+    QVERIFY(QDir(m_root + "[New Project]").removeRecursively());
+    view.slotDeleteProject();
+    QCOMPARE(m_answers->boxes.last().title, QString("[File In Use]"));
+    QCOMPARE(m_answers->boxes.last().text,
+             QString("[The action can't be completed because the file is open in other "
+                     "application.Close the file and try again.]"));
 }
 
 int main(int argc, char* argv[])
@@ -1681,6 +1747,8 @@ int main(int argc, char* argv[])
     const QStringList arguments = QApplication::arguments();
     if (arguments.value(1) == QLatin1String(holdOption))
         return holdFile(arguments.value(2));
+    if (arguments.value(1) == QLatin1String(endOption))
+        return endDuringAMessage();
     QTEST_SET_MAIN_SOURCE_PATH
     tst_ProjectOperations test;
     return QTest::qExec(&test, argc, argv);
