@@ -8,8 +8,8 @@
 
 #include "Bench.h"
 
-#include "system/LinuxProbes.h"
-#include "system/SystemTree.h"
+#include "sysinfo/LinuxProbes.h"
+#include "sysinfo/SystemTree.h"
 
 #include <RkBaseUI/CRkSystemInfo.h>
 

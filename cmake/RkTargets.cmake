@@ -3,9 +3,16 @@
 
 # Warnings that every target of the project is built with.
 function(rk_set_warnings target)
-    set(warnings -Wall -Wextra -Wpedantic -Wshadow)
+    if(MSVC)
+        # Without 4251 and 4275: an exported class may hold and derive from what is not exported.
+        set(warnings /utf-8 /W4 /wd4251 /wd4275)
+        set(as_errors /WX)
+    else()
+        set(warnings -Wall -Wextra -Wpedantic -Wshadow)
+        set(as_errors -Werror)
+    endif()
     if(RKBASEUI_WARNINGS_AS_ERRORS)
-        list(APPEND warnings -Werror)
+        list(APPEND warnings ${as_errors})
     endif()
     target_compile_options(${target} PRIVATE "$<$<COMPILE_LANGUAGE:CXX>:${warnings}>")
 endfunction()

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The RkBaseUI developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
-#include "system/PciNames.h"
+#include "sysinfo/PciNames.h"
 
-#include "system/SystemText.h"
+#include "sysinfo/SystemText.h"
 
 #include <string>
 #include <string_view>

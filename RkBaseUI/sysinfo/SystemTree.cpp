@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The RkBaseUI developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
-#include "system/SystemTree.h"
+#include "sysinfo/SystemTree.h"
 
 #include <dirent.h>
 #include <fcntl.h>

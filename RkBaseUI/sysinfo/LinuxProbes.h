@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "system/Hardware.h"
+#include "sysinfo/Hardware.h"
 
 #include <QByteArray>
 

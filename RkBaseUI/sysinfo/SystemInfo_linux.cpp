@@ -1,11 +1,11 @@
 // SPDX-FileCopyrightText: 2026 The RkBaseUI developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
-#include "system/CRkSystemInfo.h"
-#include "system/CudaRuntime.h"
-#include "system/LinuxProbes.h"
-#include "system/SystemText.h"
-#include "system/SystemTree.h"
+#include "sysinfo/CRkSystemInfo.h"
+#include "sysinfo/CudaRuntime.h"
+#include "sysinfo/LinuxProbes.h"
+#include "sysinfo/SystemText.h"
+#include "sysinfo/SystemTree.h"
 
 #include <sys/auxv.h>
 #include <sys/resource.h>

@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
 #include "support/TestSupport.h"
-#include "system/SystemTree.h"
+#include "sysinfo/SystemTree.h"
 
 #include <QDir>
 #include <QFile>

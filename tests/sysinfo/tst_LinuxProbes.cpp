@@ -4,9 +4,9 @@
 #include "Machine.h"
 
 #include "support/TestSupport.h"
-#include "system/LinuxProbes.h"
-#include "system/SystemText.h"
-#include "system/SystemTree.h"
+#include "sysinfo/LinuxProbes.h"
+#include "sysinfo/SystemText.h"
+#include "sysinfo/SystemTree.h"
 
 #include <QDir>
 #include <QFile>

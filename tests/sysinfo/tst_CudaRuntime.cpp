@@ -2,7 +2,7 @@
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
 #include "support/TestSupport.h"
-#include "system/CudaRuntime.h"
+#include "sysinfo/CudaRuntime.h"
 
 #include <QLibrary>
 #include <QTemporaryDir>

@@ -1,9 +1,9 @@
 // SPDX-FileCopyrightText: 2026 The RkBaseUI developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
-#include "system/CRkSystemInfo.h"
-#include "system/CudaRuntime.h"
-#include "system/RegistryHardware.h"
+#include "sysinfo/CRkSystemInfo.h"
+#include "sysinfo/CudaRuntime.h"
+#include "sysinfo/RegistryHardware.h"
 
 #include <QCoreApplication>
 #include <QDir>

@@ -1,7 +1,7 @@
 // SPDX-FileCopyrightText: 2026 The RkBaseUI developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
-#include "system/RegistryHardware.h"
+#include "sysinfo/RegistryHardware.h"
 
 #include <QSettings>
 

@@ -1,12 +1,12 @@
 // SPDX-FileCopyrightText: 2026 The RkBaseUI developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
-#include "system/LinuxProbes.h"
+#include "sysinfo/LinuxProbes.h"
 
-#include "system/CudaRuntime.h"
-#include "system/PciNames.h"
-#include "system/SystemText.h"
-#include "system/SystemTree.h"
+#include "sysinfo/CudaRuntime.h"
+#include "sysinfo/PciNames.h"
+#include "sysinfo/SystemText.h"
+#include "sysinfo/SystemTree.h"
 
 #include <QFile>
 
