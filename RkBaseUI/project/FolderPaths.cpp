@@ -4,16 +4,19 @@
 #include "project/FolderPaths.h"
 
 #include <QDir>
+#include <QFileInfo>
 #include <QRegularExpression>
 
 namespace FolderPaths {
 
 QString below(const QString& root, const QString& path)
 {
-    QString start = QDir::cleanPath(root);
+    if (path.isEmpty())
+        return {};
+    QString start = QDir::cleanPath(QFileInfo(root).absoluteFilePath());
     if (!start.endsWith(QLatin1Char('/'))) // The root of a drive ends so.
         start += QLatin1Char('/');
-    const QString clean = QDir::cleanPath(path);
+    const QString clean = QDir::cleanPath(QFileInfo(path).absoluteFilePath());
     return clean.startsWith(start) ? clean.mid(start.size()) : QString();
 }
 

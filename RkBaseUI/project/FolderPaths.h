@@ -9,7 +9,7 @@
 namespace FolderPaths {
 
 /// What stands behind the root in a path that lies below it; empty when it does not, with all ".."
-/// and repeated separators gone from both.
+/// and repeated separators gone from both. A path may begin at the current folder.
 QString below(const QString& root, const QString& path);
 
 /// Whether each part of a path between its separators, of both kinds, can name a folder on

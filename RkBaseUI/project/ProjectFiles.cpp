@@ -79,6 +79,19 @@ void removeEmptyFolders(const QString& folder)
         path = QFileInfo(path).path();
 }
 
+/// Lets SQLite end what a crash has left half done. Of a copy, or under another name, it would not
+/// find the journal, which holds what was there before or what has not been taken over yet.
+void settle(const QString& file)
+{
+    if (!QFileInfo::exists(file)
+        || !(QFileInfo::exists(file + QLatin1String("-journal"))
+             || QFileInfo::exists(file + QLatin1String("-wal"))))
+        return;
+    CRkDataBase database(file);
+    if (database.open())
+        database.exec(QStringLiteral("select 1 from sqlite_master"));
+}
+
 QString newIdentifier()
 {
     return GetUidVariant(QUuid::createUuid().toString());
@@ -166,6 +179,7 @@ QString copy(const QString& projectFile, const QString& newName)
     if (!isBelowRoot(place))
         return {};
     makeFolder(place.folder);
+    settle(projectFile);
     if (!QFile::copy(projectFile, place.file)) {
         removeEmptyFolders(place.folder);
         return {};
@@ -182,6 +196,7 @@ QString rename(const QString& projectFile, const QString& newName,
         return {};
     }
     makeFolder(place.folder);
+    settle(projectFile);
     if (!QFile::rename(projectFile, place.file)) {
         onFailure();
         removeEmptyFolders(place.folder);
@@ -190,6 +205,7 @@ QString rename(const QString& projectFile, const QString& newName,
 
     CRkControl* const control = CRkControl::GetInstance();
     const QString companion = control->GetFlightMissionFilePath(projectFile);
+    settle(companion);
     if (QFileInfo::exists(companion)
         && !QFile::rename(companion, control->GetFlightMissionFilePath(place.file))) {
         onFailure();

@@ -43,6 +43,11 @@ void tst_FolderPaths::below_data()
     row("sibling with a longer name", "/p/", "/p2/Hill/", "");
     row("other drive", "R:/", "S:/Hill/", "");
     row("nothing", "/p/", "", "");
+    row("current folder", "./", "./Hill/", "Hill");
+    row("parent of the current folder", "./", "./../Hill/", "");
+    row("root above the current folder", "../", "../Hill/", "Hill");
+    row("parent of a root above the current folder", "../", "../../Hill/", "");
+    row("folder of the current one", "projects/", "projects/Hill/", "Hill");
 }
 
 void tst_FolderPaths::below()

@@ -300,6 +300,8 @@ private slots:
 
     void renameProject();
     void renameTakesTheCompanionAlong();
+    void journalOfACrash_data();
+    void journalOfACrash();
     void renameWritesTheBookkeeping();
     void renameBlanks();
     void renameToNothing_data();
@@ -1040,6 +1042,65 @@ void tst_ProjectOperations::renameTakesTheCompanionAlong()
         content(m_root).keys(),
         QStringList({"Dale", "Dale/Dale.proj", "Dale/Dale_flight.db", "Hill", "Hill/notes.txt"}));
     QCOMPARE(readFile(m_root + "Dale/Dale_flight.db"), QByteArray("flights"));
+}
+
+void tst_ProjectOperations::journalOfACrash_data()
+{
+    QTest::addColumn<QString>("mode");
+    QTest::newRow("of what was there before") << "journal";
+    QTest::newRow("of what is not taken over yet") << "wal";
+}
+
+/// Whoever wrote the files ended half way, and left the journals to the next who opens them.
+void tst_ProjectOperations::journalOfACrash()
+{
+    QFETCH(QString, mode);
+    const QString hill = ProjectFixture{"Hill"}.write(m_root);
+    CRkProjectManagerView view(nullptr);
+    const QString flights = CRkControl::GetInstance()->GetFlightMissionFilePath(hill);
+    const QString whole = "select count(*) from crash where value = 'whole'";
+    constexpr int rows = 3000;
+    for (const QString& file : {hill, flights}) {
+        const QString source = m_home->path() + "/crash.db";
+        QVERIFY(!QFileInfo::exists(file) || QFile::copy(file, source));
+        QVERIFY(
+            runSql(source,
+                   {"CREATE TABLE crash (value TEXT)",
+                    "WITH RECURSIVE n(i) AS (VALUES(1) UNION ALL SELECT i + 1 FROM n WHERE i < "
+                        + QString::number(rows) + ") INSERT INTO crash SELECT 'whole' FROM n"}));
+        {
+            CRkDataBase writer(source);
+            QVERIFY(writer.open());
+            if (mode == "wal") {
+                writer.exec("PRAGMA journal_mode=wal");
+                writer.exec("DELETE FROM crash");
+                writer.exec("WITH RECURSIVE n(i) AS (VALUES(1) UNION ALL SELECT i + 1 FROM n WHERE "
+                            "i < 3000) INSERT INTO crash SELECT 'whole' FROM n");
+            } else {
+                writer.exec("PRAGMA cache_size=2");
+                writer.exec("BEGIN");
+                writer.exec("UPDATE crash SET value = 'half ' || rowid");
+            }
+            QFile::remove(file);
+            QVERIFY(QFile::copy(source, file));
+            QVERIFY(QFile::copy(source + '-' + mode, file + '-' + mode));
+            if (mode != "wal")
+                writer.exec("ROLLBACK");
+        }
+        QVERIFY(QFile::remove(source));
+    }
+
+    QVERIFY(select(view, "Hill"));
+    view.slotCopyProject();
+    QCOMPARE(readSql(m_root + "copy of Hill/copy of Hill.proj", whole),
+             QStringList(QString::number(rows)));
+    rename(view, "Hill", "Dale");
+    QVERIFY(m_answers->boxes.isEmpty());
+    QVERIFY(!QFileInfo::exists(m_root + "Hill"));
+    for (const char* file : {"Dale/Dale.proj", "Dale/Dale_flight.db"}) {
+        QCOMPARE(readSql(m_root + file, whole), QStringList(QString::number(rows)));
+        QCOMPARE(readSql(m_root + file, "PRAGMA integrity_check"), QStringList("ok"));
+    }
 }
 
 void tst_ProjectOperations::renameWritesTheBookkeeping()
