@@ -909,10 +909,6 @@ void tst_HostWindow::programKeepsItsSettingsWhereItIsTold()
 
 void tst_HostWindow::programStartsWithTheUserOfTheSamples()
 {
-#ifdef Q_OS_WIN
-    // Its settings are in the registry of the person, which a test must leave alone.
-    QSKIP("The program cannot be started with settings of its own");
-#endif
     const QString chosen = m_home.path() + QStringLiteral("/first");
     QProcess program;
     program.start(QStringLiteral(RK_SURVEY_HOST),

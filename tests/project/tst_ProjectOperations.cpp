@@ -201,6 +201,10 @@ int holdFile(const QString& path)
 /// A program that ends, with the view, while a message of the view is up.
 int endDuringAMessage()
 {
+    TestHome home;
+    home.setCurrentUserId("user-1");
+    if (ProjectFixture{"Hill"}.write(home.projectRoot()).isEmpty())
+        return 1;
     auto view = std::make_unique<CRkProjectManagerView>(nullptr);
     BoxAnswerer answers;
     answers.beforeAnswer = [&view] {
@@ -212,7 +216,7 @@ int endDuringAMessage()
         return 1;
     // By a timer of its own: behind a posted event the loop would still handle all others.
     QTimer::singleShot(1, qApp, [&view] { rename(*view, "Hill", " "); });
-    return QCoreApplication::exec();
+    return QCoreApplication::exec() == 0 && answers.boxes.size() == 1 ? 0 : 1;
 }
 
 using MakeHolder = std::unique_ptr<Holder> (*)(const QString& file);
@@ -1672,13 +1676,11 @@ void tst_ProjectOperations::viewThatGoesWithACopy()
 
 void tst_ProjectOperations::programThatEndsDuringAMessage()
 {
-    ProjectFixture{"Hill"}.write(m_root);
     QProcess program;
     program.start(QCoreApplication::applicationFilePath(), {endOption});
     QVERIFY2(program.waitForFinished(), "it does not end");
     QCOMPARE(program.exitStatus(), QProcess::NormalExit);
     QCOMPARE(program.exitCode(), 0);
-    QCOMPARE(sortedNamesOf(CRkProjectManagerView(nullptr)), QStringList{"Hill"});
 }
 
 void tst_ProjectOperations::tileThatGoesDuringAMessage_data()
