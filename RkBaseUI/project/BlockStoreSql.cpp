@@ -5,6 +5,9 @@
 
 #include <RkAlgorthm/RkAlgorthm.h>
 
+#include <QJsonArray>
+#include <QJsonDocument>
+
 #include <algorithm>
 
 namespace BlockStoreSql {
@@ -72,28 +75,16 @@ QStringList makeIdTable(const QStringList& ids)
         // A column without a type: it does not change how values are compared with it.
         QStringLiteral("CREATE TEMP TABLE asked_id (number INTEGER PRIMARY KEY, value)"),
     };
-    QString rows;
-    int rowCount = 0;
-    const auto insertRows = [&] {
-        if (rowCount > 0)
-            statements.append("INSERT INTO temp.asked_id VALUES " + rows);
-        rows.clear();
-        rowCount = 0;
-    };
-    for (int i = 0; i < ids.size(); ++i) {
-        if (mustStandAlone(ids[i]))
-            continue;
-        if (++rowCount > 1)
-            rows += QLatin1Char(',');
-        rows += QLatin1Char('(');
-        rows += QString::number(i);
-        rows += QLatin1Char(',');
-        rows += quoted(ids[i]);
-        rows += QLatin1Char(')');
-        if (rowCount == idsInAStatement)
-            insertRows();
+    for (int first = 0; first < ids.size(); first += idsInAStatement) {
+        QJsonArray values;
+        for (int i = first; i < std::min(first + idsInAStatement, ids.size()); ++i)
+            values.append(mustStandAlone(ids[i]) ? QJsonValue() : QJsonValue(ids[i]));
+        statements.append(
+            "INSERT INTO temp.asked_id SELECT key + " + QString::number(first)
+            + ", value FROM json_each("
+            + quoted(QString::fromUtf8(QJsonDocument(values).toJson(QJsonDocument::Compact)))
+            + ')');
     }
-    insertRows();
     return statements;
 }
 

@@ -33,7 +33,7 @@ QStringList makeIndexedCopies();
 bool mustStandAlone(const QString& id);
 
 /// Makes a table of ids, numbered by their place in the list, for the two questions below. Ids that
-/// must stand alone are left out. An id is compared as it is in a statement of its own.
+/// must stand alone have no value there. An id is compared as it is in a statement of its own.
 QStringList makeIdTable(const QStringList& ids);
 
 /// The number of each block in the id table that has a task, and 1.
