@@ -134,7 +134,7 @@ void CRkProjectManagerView::slotCopyProject()
     AddProjectItem(defaultThumbnail(), copy, false);
     const QPointer<CRkProjectManagerView> alive(this);
     emit projectCopied();
-    if (alive) // A host may have closed the page, or a message that came up have given it the time.
+    if (alive) // A host may close the page now, or while a message is up that this brings about.
         verticalScrollBar()->setValue(verticalScrollBar()->maximum());
 }
 
