@@ -160,15 +160,18 @@ Outline squareSpiral(int count)
     return outline;
 }
 
-Outline comb(int count, double height)
+/// Teeth of up to this height, a part of which is random, as is as large a part of their widths.
+Outline comb(int count, double height, double randomPart)
 {
     Outline outline;
     const int teeth = (count - 2) / 4;
     for (int i = 0; i < teeth; ++i) {
+        const double top = height * (1 - randomBelow(randomPart));
+        const double right = i + 0.75 - randomBelow(randomPart);
         outline.emplace_back(i, 0);
-        outline.emplace_back(i, height);
-        outline.emplace_back(i + 0.5, height);
-        outline.emplace_back(i + 0.5, 0);
+        outline.emplace_back(i, top);
+        outline.emplace_back(right, top);
+        outline.emplace_back(right, 0);
     }
     outline.emplace_back(teeth, -1);
     outline.emplace_back(0, -1);
@@ -177,17 +180,18 @@ Outline comb(int count, double height)
 
 Outline shortComb(int count)
 {
-    return comb(count, 10);
+    return comb(count, 10, 0.5);
 }
 
 Outline longComb(int count)
 {
-    return comb(count, 10.0 * count);
+    return comb(count, 10.0 * count, 0.5);
 }
 
+/// Of equal teeth: others cross themselves by rounding when they are turned.
 Outline turnedComb(int count)
 {
-    return turned(comb(count, 10), 0.3);
+    return turned(comb(count, 10, 0), 0.3);
 }
 
 Outline turnedSquareSpiral(int count)
