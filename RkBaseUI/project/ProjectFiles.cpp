@@ -84,8 +84,8 @@ void removeEmptyFolders(const QString& folder)
 void settle(const QString& file)
 {
     if (!QFileInfo::exists(file)
-        || !(QFileInfo::exists(file + QLatin1String("-journal"))
-             || QFileInfo::exists(file + QLatin1String("-wal"))))
+        || !(QFileInfo::exists(file + QStringLiteral("-journal"))
+             || QFileInfo::exists(file + QStringLiteral("-wal"))))
         return;
     CRkDataBase database(file);
     if (database.open())

@@ -20,6 +20,8 @@ public:
 
 private:
     bool m_isValid = false;
+#ifdef Q_OS_WIN
     QString m_keyName;
     void* m_key = nullptr;
+#endif
 };
