@@ -237,11 +237,11 @@ bool benchCrossings(const Family& family, bool quick)
         std::vector<Outline> outlines;
         for (int run = 0; run < runs; ++run)
             outlines.push_back(family.make(size));
-        const Outline& outline = outlines.front();
+        const Outline outline = outlines.front();
         std::size_t next = 0;
         bool crosses = false;
         const double ours = bench::medianSeconds(
-            runs, [&] { crosses = isSelfIntersection(outlines[next++]) || crosses; });
+            runs, [&] { crosses = isSelfIntersection(std::move(outlines[next++])) || crosses; });
         char name[64];
         if (size == 1000 || (size == 100000 && !(quick && family.isSlowForGeos))) {
             const auto [floor, isValid] = geosTime(outline, size == 1000 ? 5 : 1);

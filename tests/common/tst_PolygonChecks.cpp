@@ -1,6 +1,8 @@
 // SPDX-FileCopyrightText: 2026 The RkBaseUI developers
 // SPDX-License-Identifier: LGPL-3.0-or-later
 
+#include "support/RandomOutlines.h"
+
 #include <RkAlgorthm/CRkCreateAirline.h>
 #include <RkBaseUI/PolygonChecks.h>
 
@@ -10,10 +12,8 @@
 #include <algorithm>
 #include <cmath>
 #include <limits>
-#include <random>
 #include <type_traits>
 
-using Outline = std::vector<QPointF>;
 using Ring = std::vector<CRkPoint2D>;
 
 Q_DECLARE_METATYPE(Outline)
@@ -70,170 +70,6 @@ bool literalIsSelfIntersection(const Outline& polygon)
     }
     return false;
 }
-
-/// Random outlines of every kind that could fool a faster search.
-class Outlines
-{
-public:
-    explicit Outlines(unsigned seed)
-        : m_engine(seed)
-    {
-    }
-
-    static constexpr int kinds = 14;
-
-    Outline make(int kind, int count)
-    {
-        switch (kind) {
-        case 0:
-            return filled(count, [this] { return QPointF(real(-1, 1), real(-1, 1)); });
-        case 1: // crossings, touches, repeated vertices, collinear runs on a coarse grid
-            return filled(count, [this] { return QPointF(whole(-3, 3), whole(-3, 3)); });
-        case 2:
-            return star(count, 0);
-        case 3:
-            return star(count, 0.3);
-        case 4: // one line, turned: parallel but for rounding
-            return turned(
-                filled(count, [this] { return QPointF(whole(0, 40), whole(0, 9) == 0 ? 1 : 0); }));
-        case 5:
-            return turned(comb(count));
-        case 6:
-            return scaled(make(whole(0, 5), count), whole(0, 1) ? 1e150 : 1e-150);
-        case 7:
-            return scaled(make(whole(0, 5), count), std::pow(10.0, whole(-320, 308)));
-        case 8:
-            return withOdd(make(whole(0, 5), count));
-        case 9: // lines through the origin, so that many crossings lie there
-            return filled(count, [this] {
-                const int way = whole(0, 3);
-                return whole(-2, 2) * QPointF(way % 2 ? 1 : way, way ? 1 : 0);
-            });
-        case 10: // far from the origin, as UTM coordinates are
-            return moved(make(whole(0, 5), count), QPointF(5e5, 3.3e6));
-        case 11:
-            return nearlyStraight(count);
-        case 12:
-            return touching(star(count, 0.5));
-        default:
-            return mixedScales(count);
-        }
-    }
-
-    int whole(int low, int high) { return std::uniform_int_distribution<int>(low, high)(m_engine); }
-    double real(double low, double high)
-    {
-        return std::uniform_real_distribution<double>(low, high)(m_engine);
-    }
-
-    Outline comb(int count)
-    {
-        Outline outline;
-        const double height = real(0.1, 20);
-        for (int i = 0; i < count / 4; ++i) {
-            for (const QPointF& corner :
-                 {QPointF(i, 0), QPointF(i, height), QPointF(i + 0.5, height), QPointF(i + 0.5, 0)})
-                outline.push_back(corner);
-        }
-        outline.emplace_back(count / 4, -1);
-        outline.emplace_back(0, -1);
-        return outline;
-    }
-
-    Outline star(int count, double inner)
-    {
-        std::vector<double> angles;
-        for (int i = 0; i < count; ++i)
-            angles.push_back(real(0, 6.28));
-        std::sort(angles.begin(), angles.end());
-        Outline outline;
-        for (const double angle : angles) {
-            const double radius = real(inner, 1);
-            outline.emplace_back(radius * std::cos(angle), radius * std::sin(angle));
-        }
-        return outline;
-    }
-
-    Outline turned(Outline outline)
-    {
-        const double angle = real(0, 6.28);
-        for (QPointF& point : outline) {
-            point = QPointF(point.x() * std::cos(angle) - point.y() * std::sin(angle),
-                            point.x() * std::sin(angle) + point.y() * std::cos(angle));
-        }
-        return outline;
-    }
-
-private:
-    template <typename Make>
-    static Outline filled(int count, Make make)
-    {
-        Outline outline;
-        for (int i = 0; i < count; ++i)
-            outline.push_back(make());
-        return outline;
-    }
-
-    static Outline scaled(Outline outline, double factor)
-    {
-        for (QPointF& point : outline)
-            point *= factor;
-        return outline;
-    }
-
-    static Outline moved(Outline outline, const QPointF& by)
-    {
-        for (QPointF& point : outline)
-            point += by;
-        return outline;
-    }
-
-    Outline withOdd(Outline outline)
-    {
-        const double odd[] = {qQNaN(), qInf(), -qInf(), 1e308, -1e308,
-                              1e101,   5e-324, 1e-101,  0.0,   -0.0};
-        for (int i = whole(1, 4); i > 0 && !outline.empty(); --i) {
-            QPointF& point = outline[std::size_t(whole(0, int(outline.size()) - 1))];
-            (whole(0, 1) ? point.rx() : point.ry()) = odd[whole(0, 9)];
-        }
-        return outline;
-    }
-
-    /// Vertices along one line, off it by a few units in the last place.
-    Outline nearlyStraight(int count)
-    {
-        const QPointF along(real(-1, 1), real(-1, 1));
-        const QPointF start(real(-1, 1), real(-1, 1));
-        return filled(count, [&] {
-            QPointF point = start + along * whole(0, 60) / 7.0;
-            point.rx() *= 1 + whole(-3, 3) * std::numeric_limits<double>::epsilon();
-            point.ry() *= 1 + whole(-3, 3) * std::numeric_limits<double>::epsilon();
-            return point;
-        });
-    }
-
-    /// Some vertex is put on, or a hair beside, an edge elsewhere.
-    Outline touching(Outline outline)
-    {
-        const int n = int(outline.size());
-        const int edge = whole(0, n - 1);
-        const QPointF on = outline[std::size_t(edge)]
-            + real(0, 1) * (outline[std::size_t((edge + 1) % n)] - outline[std::size_t(edge)])
-                * (1 + whole(-2, 2) * 1e-16);
-        outline[std::size_t(whole(0, n - 1))] = on;
-        return outline;
-    }
-
-    Outline mixedScales(int count)
-    {
-        return filled(count, [this] {
-            const double scale = std::pow(10.0, whole(-17, 0));
-            return QPointF(0.3, 0.7) + QPointF(real(-1, 1), real(-1, 1)) * scale;
-        });
-    }
-
-    std::mt19937_64 m_engine;
-};
 
 QByteArray described(const Outline& outline)
 {
@@ -306,10 +142,10 @@ void tst_PolygonChecks::convex()
 
 void tst_PolygonChecks::convexByDefinition()
 {
-    Outlines outlines(7);
+    RandomOutlines outlines(7);
     int convex = 0;
     for (int i = 0; i < 50000; ++i) {
-        Outline outline = outlines.make(i % Outlines::kinds, outlines.whole(1, 7));
+        Outline outline = outlines.make(i % RandomOutlines::kinds, outlines.whole(1, 7));
         if (i % 3 == 0) {
             for (std::size_t j = 0; j < outline.size(); ++j)
                 outline[j] = QPointF(std::cos(double(j)), std::sin(double(j)));
@@ -366,6 +202,12 @@ void tst_PolygonChecks::selfIntersection_data()
                     {5.2820023859529019, -5.0108154217118965},
                     {2.0868894208054916, -1.8157024565644877}})
         << true;
+    QTest::newRow("meetings by rounding, of flat and steep edges")
+        << Outline({{4.7979948534840071, -5.5645424499714462},
+                    {3.1747931227651618, -3.9413407192526009},
+                    {2.0510380784213478, -2.8175856749087864},
+                    {6.7957815989841279, -7.562329195471567}})
+        << true;
     QTest::newRow("meetings by rounding, beside a very short edge")
         << Outline({{0.25711390796848754, -0.36100224017429838},
                     {-0.44729072777742906, 0.34340239557161817},
@@ -397,10 +239,10 @@ void tst_PolygonChecks::selfIntersectionByDefinition()
 {
     QFETCH(int, outlines);
     QFETCH(int, vertices);
-    Outlines random{unsigned(vertices)};
+    RandomOutlines random{unsigned(vertices)};
     int crossing = 0;
     for (int i = 0; i < outlines; ++i) {
-        const int kind = i % Outlines::kinds;
+        const int kind = i % RandomOutlines::kinds;
         const Outline outline = random.make(kind, random.whole(4, vertices));
         const bool expected = literalIsSelfIntersection(outline);
         crossing += expected;
@@ -413,21 +255,12 @@ void tst_PolygonChecks::selfIntersectionByDefinition()
 void tst_PolygonChecks::largeOutlines_data()
 {
     QTest::addColumn<Outline>("outline");
-    Outlines random(3);
+    RandomOutlines random(3);
     const Outline comb = random.comb(3000);
     QTest::newRow("star") << random.star(3000, 0);
     QTest::newRow("comb") << comb;
     QTest::newRow("turned comb") << random.turned(comb);
-    Outline spiral;
-    Outline back;
-    const int signX[] = {1, -1, -1, 1};
-    const int signY[] = {1, 1, -1, -1};
-    for (int i = 0; i < 1500; ++i) {
-        const double radius = 1 + i / 4.0;
-        spiral.emplace_back(signX[i % 4] * radius, signY[i % 4] * radius);
-        back.emplace_back(signX[i % 4] * (radius + 0.4), signY[i % 4] * (radius + 0.4));
-    }
-    spiral.insert(spiral.end(), back.rbegin(), back.rend());
+    const Outline spiral = RandomOutlines::squareSpiral(3000);
     QTest::newRow("square spiral") << spiral;
     QTest::newRow("turned square spiral") << random.turned(spiral);
 }

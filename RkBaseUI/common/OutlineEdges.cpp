@@ -1,0 +1,74 @@
+// SPDX-FileCopyrightText: 2026 The RkBaseUI developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+
+#include "common/OutlineEdges.h"
+
+// Why it is enough to ask neighbours and collinear edges.
+//
+// For edges e = p + s a and f = q - t b (0 <= s, t <= 1), QLineF::intersects computes D = a x b
+// and, with c = p - q, the parameters s = (b x c) / D and t = (a x c) / D, and wants both in [0,
+// 1]. Swapping e and f swaps s and t exactly, so a pair meets or does not, whichever is asked.
+// Below, |v| is the larger coordinate of v, u = 2^-53, k = |D| / (|a| |b|) (nearly the sine of the
+// angle), r = u / k, and M the largest coordinate, taken from the centre of the outline. Rounding
+// changes D by at most 2.02 u |a| |b|, b x c by 2.02 u |b| |c| and a x c by 2.02 u |a| |c|, as long
+// as nothing over- or underflows, for which coordinates are at most 1e100 and edges at least 1e-100
+// long.
+//
+// Let k >= K u with K >= 32, and both computed parameters be in [0, 1]. Then the true crossing O of
+// the two lines lies beyond the end of e by at most 2.03 r |a| + 2.02 r |c|, and beyond that of f
+// by the same with b. As c = -(s a + t b), |c| <= 1.22 (|a| + |b|). Now either k |a| <= K u |b| /
+// 4: then e lies within K u M of the line of f, and its end not further than 15 / K |b| beyond the
+// end of f. Or the same holds with e and f swapped. Or neither, and O is at most 15 / K |a| beyond
+// the end of e and 15 / K |b| beyond that of f. In each case the edges, lengthened by 16 / K of
+// themselves at both ends and widened by K u M, overlap.
+//
+// This is used twice. With K = 2^20, `angle`, the edges are lengthened by 2^-16 only, so that few
+// of them overlap that do not meet, even where the edges are long and close together. What remains
+// are pairs with k < K u: their directions differ by not much more than that, and the distances of
+// their two lines from the centre by less than 8 K u M, because |b x c| is at most |D| but for
+// rounding. Of these, with K = 32, only those can meet that overlap when lengthened by a half, or
+// whose directions differ by less than 38 u.
+namespace {
+
+constexpr double largestCoordinate = 1e100;
+constexpr double shortestEdge = 1e-100;
+
+} // namespace
+
+OutlineEdges::OutlineEdges(const std::vector<QPointF>& vertices)
+    : m_vertices(vertices)
+{
+    m_lines.reserve(vertices.size());
+    QPointF low(largestCoordinate, largestCoordinate);
+    QPointF high = -low;
+    for (int i = 0; i < count(); ++i) {
+        const QLineF edge = line(i);
+        const double length = size(vector(edge));
+        // What has no length, or one that is no number, meets nothing.
+        if (length == 0 || !std::isfinite(edge.dx()) || !std::isfinite(edge.dy()))
+            continue;
+        m_lines.push_back(i);
+        m_mainDirection.add(vector(edge));
+        m_areExtreme = m_areExtreme || length < shortestEdge;
+        for (const QPointF& end : {edge.p1(), edge.p2()}) {
+            low = QPointF(std::min(low.x(), end.x()), std::min(low.y(), end.y()));
+            high = QPointF(std::max(high.x(), end.x()), std::max(high.y(), end.y()));
+        }
+    }
+    m_areExtreme = m_areExtreme || std::max(size(low), size(high)) > largestCoordinate;
+    m_centre = (low + high) / 2;
+    m_reach = size(high - low) / 2;
+}
+
+double OutlineEdges::direction(const QLineF& line)
+{
+    return std::abs(line.dx()) >= std::abs(line.dy()) ? line.dy() / line.dx()
+                                                      : 2 - line.dx() / line.dy();
+}
+
+double OutlineEdges::offset(const QLineF& line) const
+{
+    const QPointF position = middle(line);
+    return (position.x() * line.dy() - position.y() * line.dx())
+        / (std::abs(line.dx()) >= std::abs(line.dy()) ? line.dx() : line.dy());
+}

@@ -1,0 +1,175 @@
+// SPDX-FileCopyrightText: 2026 The RkBaseUI developers
+// SPDX-License-Identifier: LGPL-3.0-or-later
+
+#include "common/CollinearEdges.h"
+#include "common/EdgeGrid.h"
+#include "common/EdgeTree.h"
+#include "common/RankedEdges.h"
+#include "support/RandomOutlines.h"
+
+#include <QtTest>
+
+#include <set>
+#include <utility>
+
+Q_DECLARE_METATYPE(Outline)
+
+namespace {
+
+using Pair = std::pair<int, int>;
+
+bool meet(const OutlineEdges& edges, const Pair& pair)
+{
+    return edges.line(pair.first).intersects(edges.line(pair.second), nullptr)
+        == QLineF::BoundedIntersection;
+}
+
+/// The pairs that a search asks, the smaller edge first.
+template <typename Search>
+std::set<Pair> pairsOf(const Search& search)
+{
+    std::set<Pair> pairs;
+    search.anyPair([&pairs](int a, int b) {
+        pairs.insert(std::minmax(a, b));
+        return false;
+    });
+    return pairs;
+}
+
+} // namespace
+
+class tst_EdgeSearch : public QObject
+{
+    Q_OBJECT
+
+private slots:
+    void ranks_data();
+    void ranks();
+    void searchesFindWhatMeets_data();
+    void searchesFindWhatMeets();
+    void fewPairsAreAsked_data();
+    void fewPairsAreAsked();
+    void searchesEnd();
+};
+
+void tst_EdgeSearch::ranks_data()
+{
+    QTest::addColumn<int>("count");
+    QTest::addColumn<quint32>("highest");
+    QTest::newRow("none") << 0 << 0U;
+    QTest::newRow("one") << 1 << 7U;
+    QTest::newRow("few") << 300 << 0xffffffffU;
+    QTest::newRow("many") << 5000 << 0xffffffffU;
+    QTest::newRow("many, most of them often") << 5000 << 100U;
+    QTest::newRow("many equal ones") << 5000 << 0U;
+}
+
+void tst_EdgeSearch::ranks()
+{
+    QFETCH(int, count);
+    QFETCH(quint32, highest);
+    std::mt19937 engine(1);
+    std::uniform_int_distribution<std::uint32_t> ranks(0, highest);
+    std::vector<std::uint32_t> expected;
+    std::vector<RankedEdge> edges;
+    for (int i = 0; i < count; ++i) {
+        expected.push_back(ranks(engine));
+        edges.push_back({expected.back(), i});
+    }
+    const std::vector<std::uint32_t> rankOfEdge = expected;
+    std::sort(expected.begin(), expected.end());
+
+    sortByRank(edges);
+
+    QCOMPARE(edges.size(), expected.size());
+    std::set<int> seen;
+    for (std::size_t i = 0; i < edges.size(); ++i) {
+        QCOMPARE(edges[i].rank, expected[i]);
+        QCOMPARE(rankOfEdge[std::size_t(edges[i].edge)], edges[i].rank);
+        QVERIFY(seen.insert(edges[i].edge).second);
+    }
+}
+
+void tst_EdgeSearch::searchesFindWhatMeets_data()
+{
+    QTest::addColumn<int>("outlines");
+    QTest::addColumn<int>("vertices");
+    QTest::newRow("small outlines") << 60000 << 12;
+    QTest::newRow("larger outlines") << 3000 << 60;
+}
+
+/// Tree and grid each find every pair that meets, but for those on one line that lie apart.
+void tst_EdgeSearch::searchesFindWhatMeets()
+{
+    QFETCH(int, outlines);
+    QFETCH(int, vertices);
+    RandomOutlines random{unsigned(vertices)};
+    int grids = 0;
+    int onOneLine = 0;
+    for (int i = 0; i < outlines; ++i) {
+        const Outline outline = random.make(i % RandomOutlines::kinds, random.whole(4, vertices));
+        const OutlineEdges edges(outline);
+        if (edges.lines().size() < 4 || edges.areExtreme())
+            continue;
+        const EdgeGrid grid(edges);
+        const std::set<Pair> inTree = pairsOf(EdgeTree(edges));
+        const std::set<Pair> inGrid = grid.isFit() ? pairsOf(grid) : inTree;
+        const std::set<Pair> collinear = pairsOf(CollinearEdges(edges));
+        grids += grid.isFit();
+        for (int a = 0; a < edges.count(); ++a) {
+            for (int b = a + 2; b < edges.count(); ++b) {
+                const Pair pair(a, b);
+                if (edges.next(b) == a || !meet(edges, pair))
+                    continue;
+                onOneLine += inTree.count(pair) == 0;
+                QVERIFY(inTree.count(pair) || collinear.count(pair));
+                QVERIFY(inGrid.count(pair) || collinear.count(pair));
+            }
+        }
+    }
+    QVERIFY(grids > outlines / 2);
+    QVERIFY(onOneLine > outlines / 100);
+}
+
+void tst_EdgeSearch::fewPairsAreAsked_data()
+{
+    QTest::addColumn<Outline>("outline");
+    QTest::addColumn<bool>("fitsGrid");
+    RandomOutlines random(1);
+    const Outline comb = random.comb(4000);
+    const Outline spiral = RandomOutlines::squareSpiral(4000);
+    QTest::newRow("comb") << comb << true;
+    QTest::newRow("turned comb") << random.turned(comb) << true;
+    QTest::newRow("star with short edges") << random.star(4000, 0.99) << true;
+    QTest::newRow("star") << random.star(4000, 0) << false;
+    QTest::newRow("square spiral") << spiral << false;
+    QTest::newRow("turned square spiral") << random.turned(spiral) << false;
+}
+
+void tst_EdgeSearch::fewPairsAreAsked()
+{
+    QFETCH(Outline, outline);
+    const OutlineEdges edges(outline);
+    const EdgeGrid grid(edges);
+    QTEST(grid.isFit(), "fitsGrid");
+    const std::size_t most = 12 * outline.size();
+    if (grid.isFit())
+        QVERIFY(pairsOf(grid).size() < most);
+    QVERIFY(pairsOf(EdgeTree(edges)).size() < most);
+    QVERIFY(pairsOf(CollinearEdges(edges)).size() < most);
+}
+
+void tst_EdgeSearch::searchesEnd()
+{
+    const Outline outline = RandomOutlines(2).comb(100);
+    const OutlineEdges edges(outline);
+    int asked = 0;
+    const AskPair third = [&asked](int, int) { return ++asked == 3; };
+    QVERIFY(EdgeGrid(edges).anyPair(third));
+    QCOMPARE(std::exchange(asked, 0), 3);
+    QVERIFY(EdgeTree(edges).anyPair(third));
+    QCOMPARE(std::exchange(asked, 0), 3);
+}
+
+QTEST_APPLESS_MAIN(tst_EdgeSearch)
+#include "tst_EdgeSearch.moc"
