@@ -205,7 +205,7 @@ void tst_BoundaryText::readsFieldWithZeroCharacter()
 /// number, and the second turn the foreign letter behind it into "1".
 void tst_BoundaryText::readsFieldWithByteOrderMark()
 {
-    for (const ushort mark : {0xfeff, 0xfffe}) {
+    for (const char16_t mark : {u'\xfeff', u'\xfffe'}) {
         for (const char* field : {"|1.5", "1.5|", "|", "|\u3100"}) {
             const QString text =
                 QString("1,2;" + QString(field) + ",3;4,5").replace('|', QChar(mark));

@@ -48,8 +48,8 @@ QVector3D mean(const QImage& image, const QRect& part)
     QVector3D sum;
     for (int y = part.top(); y <= part.bottom(); ++y) {
         for (int x = part.left(); x <= part.right(); ++x)
-            sum += QVector3D(qRed(image.pixel(x, y)), qGreen(image.pixel(x, y)),
-                             qBlue(image.pixel(x, y)));
+            sum += QVector3D(float(qRed(image.pixel(x, y))), float(qGreen(image.pixel(x, y))),
+                             float(qBlue(image.pixel(x, y))));
     }
     return sum / float(part.width() * part.height());
 }

@@ -121,10 +121,10 @@ void tst_CRkSystemInfo::processor()
     CRkSystemInfo().GetCpuInfo(name, identifier, count, mhz);
 #ifdef Q_OS_LINUX
     QCOMPARE(long(count), ::sysconf(_SC_NPROCESSORS_ONLN));
+    QCOMPARE(name, name.simplified());
 #else
     QVERIFY(count >= 1);
 #endif
-    QCOMPARE(name, name.simplified());
     if (QSysInfo::currentCpuArchitecture() == QLatin1String("x86_64")) {
         QVERIFY(!name.isEmpty());
         QVERIFY2(identifier.contains(QRegularExpression(

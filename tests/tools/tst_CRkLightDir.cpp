@@ -607,7 +607,7 @@ void tst_CRkLightDir::manyViews()
     QVector<View*> views;
     for (int i = 0; i < 4; ++i) {
         views.append(new View(&window));
-        views.last()->slotUpdateAngle(180.0F, 20.0F * i);
+        views.last()->slotUpdateAngle(180.0F, 20.0F * float(i));
         views.last()->setFixedSize(100, 100);
         layout->addWidget(views.last());
     }
@@ -618,7 +618,7 @@ void tst_CRkLightDir::manyViews()
     QCOMPARE(picture.pixelColor(views[0]->mapTo(&window, {2, 2})), QColor(51, 51, 51));
     for (const int i : {0, 2, 3}) {
         const View* view = views[i > 1 ? i - 1 : i];
-        const QPoint marker = inPicture(inScene(180, 20.0F * i), view->size());
+        const QPoint marker = inPicture(inScene(180, 20.0F * float(i)), view->size());
         QVERIFY(isRed(picture.pixelColor(view->mapTo(&window, marker))));
     }
 }

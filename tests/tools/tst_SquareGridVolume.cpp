@@ -77,7 +77,7 @@ rk::Levelling levelledLiterally(const Grid& grid)
         return sum;
     };
     levelling.elevation =
-        (sumOf(1) + 2 * sumOf(2) + 3 * sumOf(3) + 4 * sumOf(4)) / (4.0 * grid.cells.size());
+        (sumOf(1) + 2 * sumOf(2) + 3 * sumOf(3) + 4 * sumOf(4)) / (4.0 * double(grid.cells.size()));
     return levelling;
 }
 
