@@ -67,6 +67,8 @@ bool CollinearEdges::areParallel(int a, int b) const
     const QLineF lineA = m_edges.line(a);
     const QLineF lineB = m_edges.line(b);
     return (lineA.dx() == 0 && lineB.dx() == 0) || (lineA.dy() == 0 && lineB.dy() == 0)
+        || (lineA.dx() == lineA.dy() && lineB.dx() == lineB.dy())
+        || (lineA.dx() == -lineA.dy() && lineB.dx() == -lineB.dy())
         || (lineA.dx() == lineB.dx() && lineA.dy() == lineB.dy())
         || (lineA.dx() == -lineB.dx() && lineA.dy() == -lineB.dy());
 }

@@ -121,7 +121,7 @@ MainDirection EdgeTree::directionOf(const Range& range) const
 /// The box around the surroundings of the edges.
 EdgeTree::Box EdgeTree::around(const Range& range, const QPointF& direction) const
 {
-    constexpr double half = 0.5 + OutlineEdges::lengthening;
+    constexpr double half = OutlineEdges::lengthenedHalf;
     Interval along;
     Interval across;
     for (std::size_t i = range.begin; i < range.end; ++i) {

@@ -10,9 +10,9 @@
 // 1]. Swapping e and f swaps s and t exactly, so a pair meets or does not, whichever is asked.
 // Below, |v| is the larger coordinate of v, u = 2^-53, k = |D| / (|a| |b|) (nearly the sine of the
 // angle), r = u / k, and M the largest coordinate, taken from the centre of the outline. Rounding
-// changes D by at most 2.02 u |a| |b|, b x c by 2.02 u |b| |c| and a x c by 2.02 u |a| |c|, as long
-// as nothing over- or underflows, for which coordinates are at most 1e100 and edges at least 1e-100
-// long.
+// changes D by at most 2.02 u |a| |b|, b x c by 2.02 u |b| |c| and a x c by 2.02 u |a| |c|, besides
+// a relative rounding of the results, which moves s and t by a few u only, as long as nothing over-
+// or underflows, for which coordinates are at most 1e100 and edges at least 1e-100 long.
 //
 // Let k >= K u with K >= 32, and both computed parameters be in [0, 1]. Then the true crossing O of
 // the two lines lies beyond the end of e by at most 2.03 r |a| + 2.02 r |c|, and beyond that of f

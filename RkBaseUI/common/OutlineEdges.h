@@ -46,7 +46,10 @@ public:
     static constexpr double angle = 1 << 20;
     /// By this part of its length an edge is lengthened at both ends, ...
     static constexpr double lengthening = 16 / angle;
-    /// ... and by this part of the reach it is widened.
+    /// ... which makes half of it this part, ...
+    static constexpr double lengthenedHalf = 0.5 + lengthening;
+    /// ... and by this part of the reach it is widened: twice K u, because the largest distance
+    /// from the centre may be twice the reach where the centre has to be rounded.
     static constexpr double widening = 2 * angle * unit;
 
     /// The vertices are not copied.
@@ -65,7 +68,7 @@ public:
 
     /// The centre of all lines.
     QPointF centre() const { return m_centre; }
-    /// The largest distance of a coordinate from the centre, above 0.
+    /// The largest distance of a coordinate from the centre, but for its rounding; above 0.
     double reach() const { return m_reach; }
     /// The direction that they have in common, as a unit vector.
     QPointF mainDirection() const { return m_mainDirection.unitVector(); }
@@ -100,10 +103,9 @@ private:
 
 inline OutlineEdges::Extent OutlineEdges::surroundings(int edge) const
 {
-    constexpr double half = 0.5 + lengthening;
     const QLineF ends = line(edge);
     const QPointF position = middle(ends);
     const double room = widening * m_reach;
-    return {position.x(), position.y(), half * std::abs(ends.dx()) + room,
-            half * std::abs(ends.dy()) + room};
+    return {position.x(), position.y(), lengthenedHalf * std::abs(ends.dx()) + room,
+            lengthenedHalf * std::abs(ends.dy()) + room};
 }

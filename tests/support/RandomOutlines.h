@@ -23,7 +23,7 @@ public:
     {
     }
 
-    static constexpr int kinds = 14;
+    static constexpr int kinds = 15;
 
     Outline make(int kind, int count)
     {
@@ -58,6 +58,8 @@ public:
             return nearlyStraight(count);
         case 12:
             return touching(star(count, 0.5));
+        case 13:
+            return onMirroredLines(count);
         default:
             return mixedScales(count);
         }
@@ -94,6 +96,16 @@ public:
             const double radius = real(inner, 1);
             outline.emplace_back(radius * std::cos(angle), radius * std::sin(angle));
         }
+        return outline;
+    }
+
+    /// A triangle with many vertices on the side that rises by 45 degrees.
+    Outline alongDiagonal(int count)
+    {
+        Outline outline = {{0, 0}};
+        for (int i = 0; i < count - 2; ++i)
+            outline.push_back(outline.back() + QPointF(1, 1) * whole(1, 1000) / 4);
+        outline.emplace_back(outline.back().x(), 0);
         return outline;
     }
 
@@ -164,11 +176,23 @@ private:
     {
         const double width = real(-1, 1);
         const QPointF along(width, whole(0, 1) ? real(-1, 1) : -width);
-        const QPointF start(real(-1, 1), real(-1, 1));
+        const QPointF start = QPointF(real(-1, 1), real(-1, 1)) * std::pow(10.0, whole(-3, 6));
         return filled(count, [&] {
             QPointF point = start + along * whole(0, 60) / 7.0;
             point.rx() *= 1 + whole(-3, 3) * std::numeric_limits<double>::epsilon();
             point.ry() *= 1 + whole(-3, 3) * std::numeric_limits<double>::epsilon();
+            return point;
+        });
+    }
+
+    /// Vertices on two lines that fall by 45 degrees, as far from the centre on either side.
+    Outline onMirroredLines(int count)
+    {
+        const double shift = real(0, 1);
+        return filled(count, [&] {
+            const double along = whole(0, 1) ? whole(-9, 9) : real(-9, 9);
+            QPointF point(along + (whole(0, 1) ? shift : -shift), -along);
+            point.rx() *= 1 + whole(-3, 3) * std::numeric_limits<double>::epsilon();
             return point;
         });
     }
