@@ -184,16 +184,16 @@ bool EdgeTree::anyWithin(const Node& node, const AskPair& ask) const
 
 bool EdgeTree::anyBetween(const Node& a, const Node& b, const AskPair& ask) const
 {
-    const Box& boxA = m_boxes[a.index];
-    const Box& boxB = m_boxes[b.index];
-    if (areApart(boxA, boxB))
+    if (areApart(m_boxes[a.index], m_boxes[b.index]))
         return false;
     if (a.isLeaf() && b.isLeaf())
         return anyOfLeaves(a, b, ask);
-    const bool splitA =
-        !a.isLeaf() && (b.isLeaf() || boxA.along + boxA.across >= boxB.along + boxB.across);
-    return splitA ? anyBetween(a.lower(), b, ask) || anyBetween(a.upper(), b, ask)
-                  : anyBetween(a, b.lower(), ask) || anyBetween(a, b.upper(), ask);
+    if (a.isLeaf())
+        return anyBetween(a, b.lower(), ask) || anyBetween(a, b.upper(), ask);
+    if (b.isLeaf())
+        return anyBetween(a.lower(), b, ask) || anyBetween(a.upper(), b, ask);
+    return anyBetween(a.lower(), b.lower(), ask) || anyBetween(a.lower(), b.upper(), ask)
+        || anyBetween(a.upper(), b.lower(), ask) || anyBetween(a.upper(), b.upper(), ask);
 }
 
 bool EdgeTree::anyOfLeaves(const Node& a, const Node& b, const AskPair& ask) const
