@@ -14,6 +14,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
+#include <limits>
 #include <random>
 #include <utility>
 
@@ -199,8 +200,8 @@ Outline turnedSquareSpiral(int count)
     return turned(squareSpiral(count), 0.3);
 }
 
-/// The time of isValid in seconds, and whether it holds.
-std::pair<double, bool> geosTime(const Outline& outline, int runs)
+/// The time of isValid in seconds; 0 for an outline that GEOS takes for crossing.
+double geosTime(const Outline& outline, int runs)
 {
     const GEOSContextHandle_t context = GEOS_init_r();
     GEOSCoordSequence* const points =
@@ -216,7 +217,7 @@ std::pair<double, bool> geosTime(const Outline& outline, int runs)
         bench::medianSeconds(runs, [&] { isValid = GEOSisValid_r(context, polygon) == 1; });
     GEOSGeom_destroy_r(context, polygon);
     GEOS_finish_r(context);
-    return {seconds, isValid};
+    return isValid ? seconds : 0;
 }
 
 struct Family
@@ -226,39 +227,66 @@ struct Family
     bool isSlowForGeos;
 };
 
+/// Our time and that of the floor, taken one after the other.
+using Times = std::pair<double, double>;
+
+bool reportMedian(const char* name, std::size_t size, std::vector<Times> rounds, double limit)
+{
+    const auto middle = rounds.begin() + std::ptrdiff_t(rounds.size() / 2);
+    std::nth_element(rounds.begin(), middle, rounds.end(), [](const Times& a, const Times& b) {
+        return a.first / a.second < b.first / b.second;
+    });
+    return bench::report(name, long(size), middle->first, middle->second, limit);
+}
+
+/// The median time of a few outlines, another one each time, so that the processor cannot learn its
+/// way through a small one.
+double crossingTime(const Family& family, int size)
+{
+    const int runs = size < 100000 ? 31 : 5;
+    std::vector<Outline> outlines;
+    for (int run = 0; run < runs; ++run)
+        outlines.push_back(family.make(size));
+    std::size_t next = 0;
+    bool crosses = false;
+    const double seconds = bench::medianSeconds(
+        runs, [&] { crosses = isSelfIntersection(std::move(outlines[next++])) || crosses; });
+    if (crosses)
+        std::printf("%s of %d vertices: a crossing that is none\n", family.name, size);
+    return crosses ? std::numeric_limits<double>::infinity() : seconds;
+}
+
 bool benchCrossings(const Family& family, bool quick)
 {
+    // In rounds, because a machine may be slower for a while.
+    constexpr int rounds = 7;
+    std::vector<Times> growth[2];
+    std::vector<Times> againstGeos[2];
+    const int geosSizes[] = {sizes[0], sizes[2]};
+    for (int round = 0; round < rounds; ++round) {
+        double seconds[3];
+        for (int i = 0; i < 3; ++i) {
+            seconds[i] = crossingTime(family, sizes[i]);
+            if (i > 0)
+                growth[i - 1].emplace_back(seconds[i], seconds[i - 1]);
+        }
+        for (int i = 0; i < 2; ++i) {
+            const bool takesLong = i == 1 && family.isSlowForGeos;
+            if (takesLong && (quick || round > 0))
+                continue;
+            againstGeos[i].emplace_back(seconds[2 * i],
+                                        geosTime(family.make(geosSizes[i]), i == 0 ? 5 : 1));
+        }
+    }
     bool met = true;
-    double before = 0;
-    for (const int size : sizes) {
-        const int runs = size < 100000 ? 31 : 5;
-        // Another outline each time, so that the processor cannot learn its way through a small
-        // one.
-        std::vector<Outline> outlines;
-        for (int run = 0; run < runs; ++run)
-            outlines.push_back(family.make(size));
-        const Outline outline = outlines.front();
-        std::size_t next = 0;
-        bool crosses = false;
-        const double ours = bench::medianSeconds(
-            runs, [&] { crosses = isSelfIntersection(std::move(outlines[next++])) || crosses; });
-        char name[64];
-        if (size == 1000 || (size == 100000 && !(quick && family.isSlowForGeos))) {
-            const auto [floor, isValid] = geosTime(outline, size == 1000 ? 5 : 1);
-            std::snprintf(name, sizeof name, "crossings, %s / GEOS isValid", family.name);
-            const double limit = size == 1000 ? 1 : 0.1;
-            met = bench::report(name, long(outline.size()), ours, floor, limit) && met;
-            met = isValid && met;
-        }
-        if (before > 0) {
-            std::snprintf(name, sizeof name, "crossings, %s / a tenth of it", family.name);
-            met = bench::report(name, long(outline.size()), ours, before, 14) && met;
-        }
-        if (crosses)
-            std::printf("%s of %zu vertices: a crossing that is none\n", family.name,
-                        outline.size());
-        met = met && !crosses;
-        before = ours;
+    char name[64];
+    for (int i = 0; i < 2; ++i) {
+        std::snprintf(name, sizeof name, "crossings, %s / a tenth of it", family.name);
+        met = reportMedian(name, std::size_t(sizes[i + 1]), growth[i], 14) && met;
+        std::snprintf(name, sizeof name, "crossings, %s / GEOS isValid", family.name);
+        if (!againstGeos[i].empty())
+            met = reportMedian(name, std::size_t(geosSizes[i]), againstGeos[i], i == 0 ? 1 : 0.1)
+                && met;
     }
     return met;
 }
