@@ -294,6 +294,7 @@ private slots:
     void deleteTheOnlyProject();
     void deleteMovesTheOthersUp_data();
     void deleteMovesTheOthersUp();
+    void deleteAfterAHiddenResize_data();
     void deleteAfterAHiddenResize();
     void deleteWhatAFilterHidMeanwhile();
     void deleteWhatWasDeletedMeanwhile();
@@ -900,20 +901,30 @@ void tst_ProjectOperations::deleteMovesTheOthersUp()
     QVERIFY(view.verticalScrollBar()->maximum() > 0);
 }
 
+void tst_ProjectOperations::deleteAfterAHiddenResize_data()
+{
+    QTest::addColumn<bool>("withNewProject");
+    QTest::newRow("at once") << false;
+    QTest::newRow("of a project made since then") << true;
+}
+
 void tst_ProjectOperations::deleteAfterAHiddenResize()
 {
     // A view that is not shown hears of its new size later, but lays out the tiles for it.
+    QFETCH(bool, withNewProject);
     for (const char* name : {"A", "B", "C", "D", "E"})
         ProjectFixture{name}.write(m_root);
     QWidget parent;
     parent.resize(640, 400);
     CRkProjectManagerView view(&parent);
-    QList<Tile*> tiles = tilesOf(view);
-    QCOMPARE(positionsOf(tiles), placesOf(5, 3));
+    QCOMPARE(positionsOf(tilesOf(view)), placesOf(5, 3));
     view.resize(430, 400);
+    if (withNewProject)
+        view.slotNewProject();
+    QList<Tile*> tiles = tilesOf(view);
     tiles.takeLast()->setSelected(true);
     view.slotDeleteProject();
-    QCOMPARE(positionsOf(tiles), placesOf(4, 2));
+    QCOMPARE(positionsOf(tiles), placesOf(tiles.size(), 2));
 }
 
 void tst_ProjectOperations::deleteWhatAFilterHidMeanwhile()
