@@ -14,7 +14,6 @@
 #include <algorithm>
 #include <cmath>
 #include <cstring>
-#include <limits>
 #include <random>
 #include <utility>
 
@@ -200,8 +199,8 @@ Outline turnedSquareSpiral(int count)
     return turned(squareSpiral(count), 0.3);
 }
 
-/// The time of isValid in seconds; 0 for an outline that GEOS takes for crossing.
-double geosTime(const Outline& outline, int runs)
+/// The time of isValid in seconds. Clears `areRight` for an outline that GEOS takes for crossing.
+double geosTime(const Outline& outline, int runs, bool& areRight)
 {
     const GEOSContextHandle_t context = GEOS_init_r();
     GEOSCoordSequence* const points =
@@ -217,7 +216,8 @@ double geosTime(const Outline& outline, int runs)
         bench::medianSeconds(runs, [&] { isValid = GEOSisValid_r(context, polygon) == 1; });
     GEOSGeom_destroy_r(context, polygon);
     GEOS_finish_r(context);
-    return isValid ? seconds : 0;
+    areRight = areRight && isValid;
+    return seconds;
 }
 
 struct Family
@@ -240,8 +240,8 @@ bool reportMedian(const char* name, std::size_t size, std::vector<Times> rounds,
 }
 
 /// The median time of a few outlines, another one each time, so that the processor cannot learn its
-/// way through a small one.
-double crossingTime(const Family& family, int size)
+/// way through a small one. Clears `areRight` when one of them is said to cross itself.
+double crossingTime(const Family& family, int size, bool& areRight)
 {
     const int runs = size < 100000 ? 31 : 5;
     std::vector<Outline> outlines;
@@ -253,20 +253,22 @@ double crossingTime(const Family& family, int size)
         runs, [&] { crosses = isSelfIntersection(std::move(outlines[next++])) || crosses; });
     if (crosses)
         std::printf("%s of %d vertices: a crossing that is none\n", family.name, size);
-    return crosses ? std::numeric_limits<double>::infinity() : seconds;
+    areRight = areRight && !crosses;
+    return seconds;
 }
 
 bool benchCrossings(const Family& family, bool quick)
 {
     // In rounds, because a machine may be slower for a while.
     constexpr int rounds = 7;
+    bool met = true;
     std::vector<Times> growth[2];
     std::vector<Times> againstGeos[2];
     const int geosSizes[] = {sizes[0], sizes[2]};
     for (int round = 0; round < rounds; ++round) {
         double seconds[3];
         for (int i = 0; i < 3; ++i) {
-            seconds[i] = crossingTime(family, sizes[i]);
+            seconds[i] = crossingTime(family, sizes[i], met);
             if (i > 0)
                 growth[i - 1].emplace_back(seconds[i], seconds[i - 1]);
         }
@@ -275,10 +277,9 @@ bool benchCrossings(const Family& family, bool quick)
             if (takesLong && (quick || round > 0))
                 continue;
             againstGeos[i].emplace_back(seconds[2 * i],
-                                        geosTime(family.make(geosSizes[i]), i == 0 ? 5 : 1));
+                                        geosTime(family.make(geosSizes[i]), i == 0 ? 5 : 1, met));
         }
     }
-    bool met = true;
     char name[64];
     for (int i = 0; i < 2; ++i) {
         std::snprintf(name, sizeof name, "crossings, %s / a tenth of it", family.name);

@@ -142,7 +142,10 @@ void tst_EdgeSearch::fewPairsAreAsked_data()
     QTest::newRow("turned comb") << random.turned(comb) << true;
     QTest::newRow("star with short edges") << random.star(4000, 0.99) << true;
     QTest::newRow("star") << random.star(4000, 0) << false;
-    QTest::newRow("irregular steps along a diagonal") << random.alongDiagonal(4000) << false;
+    QTest::newRow("irregular steps, rising at 45 degrees")
+        << random.alongDiagonal(4000, 1) << false;
+    QTest::newRow("irregular steps, falling at 45 degrees")
+        << random.alongDiagonal(4000, -1) << false;
     QTest::newRow("square spiral") << spiral << false;
     QTest::newRow("turned square spiral") << random.turned(spiral) << false;
 }
