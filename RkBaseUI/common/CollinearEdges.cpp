@@ -9,6 +9,8 @@ namespace {
 // nearly parallel edges that are nearly on one line. The directions make a circle.
 constexpr double directionCells = 1 << 30;
 constexpr double offsetCells = 1 << 28; ///< in a reach
+constexpr double pieceCells = 1 << 28; ///< the same; less than 8 reaches to both sides
+constexpr double highestRank = std::numeric_limits<std::uint32_t>::max();
 static_assert(OutlineEdges::widening * directionCells < 0.5);
 static_assert(8 * OutlineEdges::widening * offsetCells <= 0.5);
 
@@ -16,49 +18,57 @@ static_assert(8 * OutlineEdges::widening * offsetCells <= 0.5);
 constexpr double largeLengthening = 1.0 / 2;
 constexpr double sameDirection = 48 * OutlineEdges::unit;
 
-/// Whether the second one of two ranks is in the same cell as the first or in the next.
-bool follows(const RankedEdge& first, const RankedEdge& second)
+/// Whether the second one of two ranks is neither in the same cell as the first nor in the next.
+bool isGap(const RankedEdge& first, const RankedEdge& second)
 {
-    return second.rank - first.rank <= 1;
+    return second.rank - first.rank > 1;
 }
 
-/// Calls `work` with every longest run of at least two edges that follow one another, until it
-/// gives true.
+/// Calls `work` with every longest run of at least two edges without a gap, until it gives true. It
+/// may rank the edges of its run anew.
 template <typename Work>
-bool anyRun(const std::vector<RankedEdge>& edges, Work work)
+bool anyRun(RankedEdges::iterator begin, RankedEdges::iterator end, Work work)
 {
-    for (auto begin = edges.begin(); begin != edges.end();) {
-        auto end = begin + 1;
-        while (end != edges.end() && follows(*(end - 1), *end))
-            ++end;
-        if (end - begin > 1 && work(begin, end))
+    while (begin != end) {
+        const auto last = std::adjacent_find(begin, end, isGap);
+        const auto runEnd = last == end ? end : last + 1;
+        if (runEnd - begin > 1 && work(begin, runEnd))
             return true;
-        begin = end;
+        begin = runEnd;
     }
     return false;
 }
 
+/// From one direction to another, at most 2.
+double turn(double from, double to)
+{
+    const double turn = to - from;
+    return std::abs(turn) <= 2 ? turn : turn - std::copysign(4, turn);
+}
+
 } // namespace
 
-bool CollinearEdges::anyPair(const AskPair& ask) const
+CollinearEdges::CollinearEdges(const OutlineEdges& edges, std::pmr::memory_resource* memory)
+    : m_edges(edges)
+    , m_ranked(memory)
+    , m_scratch(memory)
 {
-    std::vector<RankedEdge> edges;
-    edges.reserve(m_edges.lines().size());
-    for (const int edge : m_edges.lines()) {
-        const double direction = OutlineEdges::direction(m_edges.line(edge));
-        edges.push_back({std::uint32_t(std::uint64_t((direction + 1) * directionCells)), edge});
+}
+
+bool CollinearEdges::anyPair(const AskPair& ask)
+{
+    const double cellsPerUnit = offsetCells / m_edges.reach();
+    m_ranked.reserve(std::size_t(m_edges.lineCount()));
+    for (int edge = 0; edge < m_edges.count(); ++edge) {
+        if (!m_edges.isLine(edge))
+            continue;
+        // Its sign changes where the directions begin anew.
+        const double offset = std::abs(m_edges.offset(m_edges.line(edge)));
+        m_ranked.push_back({std::uint32_t(offset * cellsPerUnit), edge});
     }
-    sortByRank(edges);
-    if (follows(edges.back(), edges.front())) {
-        // No run may be broken where the circle begins.
-        const auto gap = std::adjacent_find(
-            edges.begin(), edges.end(),
-            [](const RankedEdge& a, const RankedEdge& b) { return !follows(a, b); });
-        if (gap != edges.end())
-            std::rotate(edges.begin(), gap + 1, edges.end());
-    }
-    return anyRun(edges,
-                  [&](Iterator begin, Iterator end) { return anyOfOneDirection(begin, end, ask); });
+    sortByRank(m_ranked.begin(), m_ranked.end(), m_scratch);
+    return anyRun(m_ranked.begin(), m_ranked.end(),
+                  [&](Iterator begin, Iterator end) { return anyOfOneOffset(begin, end, ask); });
 }
 
 /// Whether no rounding can make two edges anything but parallel.
@@ -73,29 +83,53 @@ bool CollinearEdges::areParallel(int a, int b) const
         || (lineA.dx() == -lineB.dx() && lineA.dy() == -lineB.dy());
 }
 
-bool CollinearEdges::anyOfOneDirection(Iterator begin, Iterator end, const AskPair& ask) const
+bool CollinearEdges::areAllParallel(Iterator begin, Iterator end) const
 {
-    const bool areAllParallel = std::all_of(begin + 1, end, [&](const RankedEdge& other) {
+    return std::all_of(begin + 1, end, [&](const RankedEdge& other) {
         return areParallel(begin->edge, other.edge);
     });
-    if (areAllParallel)
-        return false;
+}
 
-    std::vector<RankedEdge> edges(begin, end);
-    for (RankedEdge& edge : edges) {
-        // Its sign changes where the directions begin anew.
-        const double offset = std::abs(m_edges.offset(m_edges.line(edge.edge)));
-        edge.rank = std::uint32_t(offset / m_edges.reach() * offsetCells);
+bool CollinearEdges::anyOfOneOffset(Iterator begin, Iterator end, const AskPair& ask)
+{
+    if (areAllParallel(begin, end))
+        return false;
+    for (auto edge = begin; edge != end; ++edge) {
+        const double direction = OutlineEdges::direction(m_edges.line(edge->edge)) + 1;
+        edge->rank = std::uint32_t(std::uint64_t(direction * directionCells));
     }
-    sortByRank(edges);
-    return anyRun(edges, [&](Iterator first, Iterator last) {
+    sortByRank(begin, end, m_scratch);
+    if (!isGap(*(end - 1), *begin)) {
+        // No run may be broken where the circle begins.
+        const auto last = std::adjacent_find(begin, end, isGap);
+        if (last != end)
+            std::rotate(begin, last + 1, end);
+    }
+    return anyRun(begin, end, [&](Iterator first, Iterator last) {
         return anyEquallyDirected(first, last, ask) || anySideBySide(first, last, ask);
     });
 }
 
 /// Asks the pairs whose directions differ by rounding alone.
-bool CollinearEdges::anyEquallyDirected(Iterator begin, Iterator end, const AskPair& ask) const
+bool CollinearEdges::anyEquallyDirected(Iterator begin, Iterator end, const AskPair& ask)
 {
+    const double first = OutlineEdges::direction(m_edges.line(begin->edge));
+    for (auto edge = begin; edge != end; ++edge) {
+        // The first one has the lowest rank, so no direction is lower by a cell.
+        const double direction = OutlineEdges::direction(m_edges.line(edge->edge));
+        const double more = turn(first, direction) + 1 / directionCells;
+        edge->rank = std::uint32_t(std::min(more / sameDirection, highestRank));
+    }
+    sortByRank(begin, end, m_scratch);
+    return anyRun(begin, end, [&](Iterator runBegin, Iterator runEnd) {
+        return anyOfOneRun(runBegin, runEnd, ask);
+    });
+}
+
+bool CollinearEdges::anyOfOneRun(Iterator begin, Iterator end, const AskPair& ask)
+{
+    if (areAllParallel(begin, end))
+        return false;
     struct Directed
     {
         double direction;
@@ -106,10 +140,8 @@ bool CollinearEdges::anyEquallyDirected(Iterator begin, Iterator end, const AskP
     std::vector<Directed> edges;
     for (auto ranked = begin; ranked != end; ++ranked) {
         const QLineF line = m_edges.line(ranked->edge);
-        double direction = OutlineEdges::direction(line);
-        if (std::abs(direction - first) > 2) // On the other side of where they begin anew.
-            direction += direction < first ? 4 : -4;
-        edges.push_back({direction, OutlineEdges::size(OutlineEdges::vector(line)), ranked->edge});
+        edges.push_back({turn(first, OutlineEdges::direction(line)),
+                         OutlineEdges::size(OutlineEdges::vector(line)), ranked->edge});
     }
     std::sort(edges.begin(), edges.end(), [](const Directed& a, const Directed& b) {
         return a.direction != b.direction ? a.direction < b.direction : a.length < b.length;
@@ -130,30 +162,26 @@ bool CollinearEdges::anyEquallyDirected(Iterator begin, Iterator end, const AskP
 }
 
 /// Asks the pairs that overlap in x, or in y where the edges are steep.
-bool CollinearEdges::anySideBySide(Iterator begin, Iterator end, const AskPair& ask) const
+bool CollinearEdges::anySideBySide(Iterator begin, Iterator end, const AskPair& ask)
 {
-    struct Piece
-    {
-        double low;
-        double high;
-        int edge;
-    };
     const QPointF first = OutlineEdges::vector(m_edges.line(begin->edge));
     const bool isFlat = std::abs(first.x()) >= std::abs(first.y());
-    std::vector<Piece> pieces;
-    for (auto ranked = begin; ranked != end; ++ranked) {
-        const QLineF line = m_edges.line(ranked->edge);
-        const auto [low, high] =
-            isFlat ? std::minmax({line.x1(), line.x2()}) : std::minmax({line.y1(), line.y2()});
-        const double more = largeLengthening * OutlineEdges::size(OutlineEdges::vector(line))
+    const double cellsPerUnit = pieceCells / m_edges.reach();
+    const auto rankOfEnd = [&](int edge, double side) {
+        const QLineF line = m_edges.line(edge);
+        const double middle = isFlat ? m_edges.middle(line).x() : m_edges.middle(line).y();
+        const double half =
+            (0.5 + largeLengthening) * OutlineEdges::size(OutlineEdges::vector(line))
             + OutlineEdges::widening * m_edges.reach();
-        pieces.push_back({low - more, high + more, ranked->edge});
-    }
-    std::sort(pieces.begin(), pieces.end(),
-              [](const Piece& a, const Piece& b) { return a.low < b.low; });
-    for (auto piece = pieces.begin(); piece != pieces.end(); ++piece) {
-        for (auto other = piece + 1; other != pieces.end() && other->low <= piece->high; ++other) {
-            if (!areParallel(piece->edge, other->edge) && ask(piece->edge, other->edge))
+        return std::uint32_t((middle + side * half) * cellsPerUnit + 8 * pieceCells);
+    };
+    for (auto edge = begin; edge != end; ++edge)
+        edge->rank = rankOfEnd(edge->edge, -1);
+    sortByRank(begin, end, m_scratch);
+    for (auto edge = begin; edge != end; ++edge) {
+        const std::uint32_t last = rankOfEnd(edge->edge, 1);
+        for (auto other = edge + 1; other != end && other->rank <= last; ++other) {
+            if (ask(edge->edge, other->edge))
                 return true;
         }
     }

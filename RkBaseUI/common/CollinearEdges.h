@@ -8,28 +8,30 @@
 
 #include <vector>
 
-/// Pairs of edges on one line but for rounding, at any distance, found by sorting by direction and
-/// offset.
+/// Pairs of edges on one line but for rounding, at any distance, found by sorting by offset and
+/// direction.
 class CollinearEdges
 {
 public:
     /// The edges must outlive this.
-    explicit CollinearEdges(const OutlineEdges& edges)
-        : m_edges(edges)
-    {
-    }
+    explicit CollinearEdges(const OutlineEdges& edges,
+                            std::pmr::memory_resource* memory = std::pmr::get_default_resource());
 
     /// Asks the pairs that rounding may let meet, some more than once; true when one of them gives
     /// that.
-    bool anyPair(const AskPair& ask) const;
+    bool anyPair(const AskPair& ask);
 
 private:
-    using Iterator = std::vector<RankedEdge>::const_iterator;
+    using Iterator = RankedEdges::iterator;
 
     bool areParallel(int a, int b) const;
-    bool anyOfOneDirection(Iterator begin, Iterator end, const AskPair& ask) const;
-    bool anyEquallyDirected(Iterator begin, Iterator end, const AskPair& ask) const;
-    bool anySideBySide(Iterator begin, Iterator end, const AskPair& ask) const;
+    bool areAllParallel(Iterator begin, Iterator end) const;
+    bool anyOfOneOffset(Iterator begin, Iterator end, const AskPair& ask);
+    bool anyEquallyDirected(Iterator begin, Iterator end, const AskPair& ask);
+    bool anyOfOneRun(Iterator begin, Iterator end, const AskPair& ask);
+    bool anySideBySide(Iterator begin, Iterator end, const AskPair& ask);
 
     const OutlineEdges& m_edges;
+    RankedEdges m_ranked;
+    RankedEdges m_scratch;
 };

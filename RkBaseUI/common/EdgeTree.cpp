@@ -5,8 +5,6 @@
 
 #include "common/RankedEdges.h"
 
-#include <array>
-
 namespace {
 
 /// How often boxes of a few edges each may cover the outline's own box before another order of the
@@ -26,6 +24,17 @@ double dot(const QPointF& a, const QPointF& b)
 double cross(const QPointF& a, const QPointF& b)
 {
     return a.x() * b.y() - a.y() * b.x();
+}
+
+/// The second one is turned round when it points back, so the sum is not shorter than either.
+QPointF alignedSum(const QPointF& a, const QPointF& b)
+{
+    return dot(a, b) >= 0 ? a + b : a - b;
+}
+
+QPointF unitVector(const QPointF& vector)
+{
+    return vector / std::sqrt(dot(vector, vector));
 }
 
 } // namespace
@@ -52,10 +61,15 @@ private:
     double m_high = -std::numeric_limits<double>::max();
 };
 
-EdgeTree::EdgeTree(const OutlineEdges& edges)
+EdgeTree::EdgeTree(const OutlineEdges& edges, const EdgeBoxes& boxes)
     : m_edges(edges)
-    , m_order(edges.lines())
+    , m_surroundings(boxes)
 {
+    m_order.reserve(std::size_t(edges.lineCount()));
+    for (int edge = 0; edge < edges.count(); ++edge) {
+        if (edges.isLine(edge))
+            m_order.push_back(edge);
+    }
     // Edges that follow one another mostly lie together. Where they surround the others, as in a
     // spiral with straight sides, those of one direction do that lie side by side.
     if (sampledCover() > largestCover)
@@ -73,49 +87,51 @@ double EdgeTree::sampledCover() const
     double area = 0;
     for (std::size_t leaf = 0; leaf < root().end; leaf += samplingStep) {
         const Range edges = edgesOf({0, leaf, leaf + 1});
-        area += around(edges, directionOf(edges).unitVector()).area();
+        area += around(edges, unitVector(sumOfVectors(edges))).area();
     }
-    return double(samplingStep) * area / around(edgesOf(root()), m_edges.mainDirection()).area();
+    return double(samplingStep) * area / around(edgesOf(root()), m_edges.axis()).area();
 }
 
 void EdgeTree::orderByDirection()
 {
-    const double offsetCells = double(1 << offsetBits) / 4 / m_edges.reach();
-    std::vector<RankedEdge> ranked;
+    const double largestOffset = OutlineEdges::largestOffset * m_edges.reach();
+    const double offsetCells = double(1 << offsetBits) / (2 * largestOffset);
+    RankedEdges ranked;
+    RankedEdges scratch;
     ranked.reserve(m_order.size());
     for (const int edge : m_order) {
         const QLineF line = m_edges.line(edge);
         // Directions in the middle of a cell: common ones, along the axes, stay together.
         const double cell = (OutlineEdges::direction(line) + 1) / 4 * (1 << directionBits) + 0.5;
-        const double offset = m_edges.offset(line) + 2 * m_edges.reach();
+        const double offset = m_edges.offset(line) + largestOffset;
         ranked.push_back(
             {(std::uint32_t(cell) << offsetBits) + std::uint32_t(offset * offsetCells), edge});
     }
-    sortByRank(ranked);
+    sortByRank(ranked.begin(), ranked.end(), scratch);
     std::transform(ranked.begin(), ranked.end(), m_order.begin(),
                    [](const RankedEdge& edge) { return edge.edge; });
 }
 
-MainDirection EdgeTree::build(const Node& node)
+/// Gives the sum of the vectors of all its edges.
+QPointF EdgeTree::build(const Node& node)
 {
     if (node.isLeaf()) {
-        const MainDirection direction = directionOf(edgesOf(node));
-        m_boxes[node.index] = around(edgesOf(node), direction.unitVector());
-        return direction;
+        const QPointF sum = sumOfVectors(edgesOf(node));
+        m_boxes[node.index] = around(edgesOf(node), unitVector(sum));
+        return sum;
     }
-    MainDirection direction = build(node.lower());
-    direction.add(build(node.upper()));
+    const QPointF sum = alignedSum(build(node.lower()), build(node.upper()));
     m_boxes[node.index] =
-        around(m_boxes[node.lower().index], m_boxes[node.upper().index], direction.unitVector());
-    return direction;
+        around(m_boxes[node.lower().index], m_boxes[node.upper().index], unitVector(sum));
+    return sum;
 }
 
-MainDirection EdgeTree::directionOf(const Range& range) const
+QPointF EdgeTree::sumOfVectors(const Range& range) const
 {
-    MainDirection direction;
+    QPointF sum;
     for (std::size_t i = range.begin; i < range.end; ++i)
-        direction.add(OutlineEdges::vector(m_edges.line(m_order[i])));
-    return direction;
+        sum = alignedSum(sum, OutlineEdges::vector(m_edges.line(m_order[i])));
+    return sum;
 }
 
 /// The box around the surroundings of the edges.
@@ -200,13 +216,11 @@ bool EdgeTree::anyOfLeaves(const Node& a, const Node& b, const AskPair& ask) con
 {
     const Range edgesA = edgesOf(a);
     const Range edgesB = edgesOf(b);
-    std::array<OutlineEdges::Extent, leafSize> extents;
-    for (std::size_t j = edgesB.begin; j < edgesB.end; ++j)
-        extents[j - edgesB.begin] = m_edges.surroundings(m_order[j]);
     for (std::size_t i = edgesA.begin; i < edgesA.end; ++i) {
-        const OutlineEdges::Extent extent = m_edges.surroundings(m_order[i]);
+        const EdgeBoxes::Box& box = m_surroundings[std::size_t(m_order[i])];
         for (std::size_t j = a.index == b.index ? i + 1 : edgesB.begin; j < edgesB.end; ++j) {
-            if (extent.overlaps(extents[j - edgesB.begin]) && ask(m_order[i], m_order[j]))
+            if (box.overlaps(m_surroundings[std::size_t(m_order[j])])
+                && ask(m_order[i], m_order[j]))
                 return true;
         }
     }

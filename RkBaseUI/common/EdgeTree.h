@@ -3,7 +3,7 @@
 
 #pragma once
 
-#include "common/MainDirection.h"
+#include "common/EdgeBoxes.h"
 #include "common/OutlineEdges.h"
 
 #include <cstddef>
@@ -14,8 +14,8 @@
 class EdgeTree
 {
 public:
-    /// The edges must outlive this.
-    explicit EdgeTree(const OutlineEdges& edges);
+    /// The edges and their boxes must outlive this.
+    EdgeTree(const OutlineEdges& edges, const EdgeBoxes& boxes);
 
     /// Asks the pairs, each once; true when one of them gives that.
     bool anyPair(const AskPair& ask) const;
@@ -60,8 +60,8 @@ private:
     }
     void orderByDirection();
     double sampledCover() const;
-    MainDirection build(const Node& node);
-    MainDirection directionOf(const Range& range) const;
+    QPointF build(const Node& node);
+    QPointF sumOfVectors(const Range& range) const;
     Box around(const Range& range, const QPointF& direction) const;
     static Box around(const Box& a, const Box& b, const QPointF& direction);
     static Box box(const QPointF& direction, const Interval& along, const Interval& across);
@@ -72,6 +72,7 @@ private:
     bool anyOfLeaves(const Node& a, const Node& b, const AskPair& ask) const;
 
     const OutlineEdges& m_edges;
+    const EdgeBoxes& m_surroundings;
     std::vector<int> m_order;
     std::vector<Box> m_boxes; ///< a binary tree, root first
 };

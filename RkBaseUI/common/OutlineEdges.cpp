@@ -33,23 +33,30 @@ namespace {
 constexpr double largestCoordinate = 1e100;
 constexpr double shortestEdge = 1e-100;
 
+/// The vector with four times its angle and the square of its length.
+QPointF fourfold(const QPointF& vector)
+{
+    const double cosine = vector.x() * vector.x() - vector.y() * vector.y();
+    const double sine = 2 * vector.x() * vector.y();
+    const double scale = 1 / (vector.x() * vector.x() + vector.y() * vector.y());
+    // Multiplied in this order, as squares of squares may overflow.
+    return {(cosine * scale) * cosine - (sine * scale) * sine, 2 * (cosine * scale) * sine};
+}
+
 } // namespace
 
 OutlineEdges::OutlineEdges(const std::vector<QPointF>& vertices)
     : m_vertices(vertices)
 {
-    m_lines.reserve(vertices.size());
     QPointF low(largestCoordinate, largestCoordinate);
     QPointF high = -low;
     for (int i = 0; i < count(); ++i) {
         const QLineF edge = line(i);
-        const double length = size(vector(edge));
-        // What has no length, or one that is no number, meets nothing.
-        if (length == 0 || !std::isfinite(edge.dx()) || !std::isfinite(edge.dy()))
+        if (!isLine(i))
             continue;
-        m_lines.push_back(i);
-        m_mainDirection.add(vector(edge));
-        m_areExtreme = m_areExtreme || length < shortestEdge;
+        ++m_lineCount;
+        m_fourfoldSum += fourfold(vector(edge));
+        m_areExtreme = m_areExtreme || size(vector(edge)) < shortestEdge;
         for (const QPointF& end : {edge.p1(), edge.p2()}) {
             low = QPointF(std::min(low.x(), end.x()), std::min(low.y(), end.y()));
             high = QPointF(std::max(high.x(), end.x()), std::max(high.y(), end.y()));
@@ -60,6 +67,12 @@ OutlineEdges::OutlineEdges(const std::vector<QPointF>& vertices)
     m_reach = size(high - low) / 2;
 }
 
+QPointF OutlineEdges::axis() const
+{
+    const double toAxis = std::atan2(m_fourfoldSum.y(), m_fourfoldSum.x()) / 4;
+    return {std::cos(toAxis), std::sin(toAxis)};
+}
+
 double OutlineEdges::direction(const QLineF& line)
 {
     return std::abs(line.dx()) >= std::abs(line.dy()) ? line.dy() / line.dx()
@@ -68,7 +81,9 @@ double OutlineEdges::direction(const QLineF& line)
 
 double OutlineEdges::offset(const QLineF& line) const
 {
-    const QPointF position = middle(line);
+    // From the centre itself, the spokes of a star and the sides of what is symmetrical would have
+    // the same offset.
+    const QPointF position = middle(line) - m_reach * QPointF(0.0618, 0.1382);
     return (position.x() * line.dy() - position.y() * line.dx())
         / (std::abs(line.dx()) >= std::abs(line.dy()) ? line.dx() : line.dy());
 }

@@ -3,8 +3,6 @@
 
 #pragma once
 
-#include "common/MainDirection.h"
-
 #include <QLineF>
 #include <QPointF>
 
@@ -20,27 +18,12 @@ using AskPair = std::function<bool(int, int)>;
 
 /// The edges of a closed outline: edge i leads from vertex i to the next one.
 ///
-/// Two of them can meet only when their surroundings overlap, for which EdgeGrid and EdgeTree look,
-/// or when they lie on one line but for rounding, for which CollinearEdges does. OutlineEdges.cpp
-/// explains why.
+/// Two of them can meet only when their surroundings overlap, for which ChainTree and EdgeTree
+/// look, or when they lie on one line but for rounding, for which CollinearEdges does.
+/// OutlineEdges.cpp explains why.
 class OutlineEdges
 {
 public:
-    /// An upright rectangle, by its middle, from the centre of the outline, and half its size.
-    struct Extent
-    {
-        double x;
-        double y;
-        double halfWidth;
-        double halfHeight;
-
-        bool overlaps(const Extent& other) const
-        {
-            return std::abs(x - other.x) <= halfWidth + other.halfWidth
-                && std::abs(y - other.y) <= halfHeight + other.halfHeight;
-        }
-    };
-
     // OutlineEdges.cpp explains these.
     static constexpr double unit = std::numeric_limits<double>::epsilon() / 2;
     static constexpr double angle = 1 << 20;
@@ -57,8 +40,14 @@ public:
 
     /// All edges.
     int count() const { return int(m_vertices.size()); }
-    /// Those that can meet others at all: they have a length, and it is a number.
-    const std::vector<int>& lines() const { return m_lines; }
+    /// Whether the edge can meet others at all: it has a length, and that is a number.
+    bool isLine(int edge) const
+    {
+        const QPointF way = vector(line(edge));
+        return std::isfinite(way.x()) && std::isfinite(way.y()) && size(way) > 0;
+    }
+    /// How many are lines.
+    int lineCount() const { return m_lineCount; }
     /// Whether some line is so long, short or far away that nothing is provable.
     bool areExtreme() const { return m_areExtreme; }
 
@@ -70,17 +59,17 @@ public:
     QPointF centre() const { return m_centre; }
     /// The largest distance of a coordinate from the centre, but for its rounding; above 0.
     double reach() const { return m_reach; }
-    /// The direction that they have in common, as a unit vector.
-    QPointF mainDirection() const { return m_mainDirection.unitVector(); }
+    /// A unit vector to which most of them, long ones counting more, are about parallel or square.
+    QPointF axis() const;
     /// The middle of an edge, from the centre.
     QPointF middle(const QLineF& line) const { return line.p1() - m_centre + vector(line) / 2; }
     /// The direction as a number from -1 to 3, after which it begins anew; the same in both senses.
     static double direction(const QLineF& line);
-    /// Where the line, lengthened, crosses the axis through the centre that is steeper to it, by
-    /// its sign on one side or the other; at most twice the reach.
+    /// Where the line, lengthened, crosses the upright or the level through a certain point near
+    /// the centre, whichever is steeper to it; by its sign on one side or the other.
     double offset(const QLineF& line) const;
-    /// The upright rectangle around an edge that is lengthened a little.
-    Extent surroundings(int edge) const;
+    /// More than any offset, in reaches.
+    static constexpr double largestOffset = 3;
 
     /// From the start to the end of an edge.
     static QPointF vector(const QLineF& line) { return {line.dx(), line.dy()}; }
@@ -94,18 +83,9 @@ private:
     const QPointF& vertex(int index) const { return m_vertices[std::size_t(index)]; }
 
     const std::vector<QPointF>& m_vertices;
-    std::vector<int> m_lines;
+    int m_lineCount = 0;
     bool m_areExtreme = false;
     QPointF m_centre;
     double m_reach = 0;
-    MainDirection m_mainDirection;
+    QPointF m_fourfoldSum; ///< of all vectors, squared, with four times their angles
 };
-
-inline OutlineEdges::Extent OutlineEdges::surroundings(int edge) const
-{
-    const QLineF ends = line(edge);
-    const QPointF position = middle(ends);
-    const double room = widening * m_reach;
-    return {position.x(), position.y(), lengthenedHalf * std::abs(ends.dx()) + room,
-            lengthenedHalf * std::abs(ends.dy()) + room};
-}

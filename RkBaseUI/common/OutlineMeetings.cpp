@@ -3,33 +3,50 @@
 
 #include "common/OutlineMeetings.h"
 
+#include "common/ChainTree.h"
 #include "common/CollinearEdges.h"
-#include "common/EdgeGrid.h"
 #include "common/EdgeTree.h"
+
+#include <cstddef>
+#include <memory>
+
+namespace {
+
+/// Enough for EdgeBoxes and ChainTree together, and for CollinearEdges.
+constexpr std::size_t bytesPerEdge = 32;
+
+} // namespace
 
 bool OutlineMeetings::someEdgeMeetsThree()
 {
-    if (m_edges.lines().size() < 4)
+    if (m_edges.lineCount() < 4)
         return false;
     const AskPair askPair = [this](int a, int b) { return ask(a, b); };
     if (m_edges.areExtreme())
         return askAllPairs(askPair);
 
-    return askNeighbourhoods(askPair) || CollinearEdges(m_edges).anyPair(askPair);
+    // Memory that the process has not touched before is slow, so both searches use the same.
+    const std::size_t size = bytesPerEdge * std::size_t(m_edges.count());
+    const std::unique_ptr<std::byte[]> bytes(new std::byte[size]);
+    std::pmr::monotonic_buffer_resource memory(bytes.get(), size);
+    if (askNeighbourhoods(askPair, &memory))
+        return true;
+    memory.release();
+    return CollinearEdges(m_edges, &memory).anyPair(askPair);
 }
 
-bool OutlineMeetings::askNeighbourhoods(const AskPair& ask) const
+bool OutlineMeetings::askNeighbourhoods(const AskPair& ask, std::pmr::memory_resource* memory) const
 {
-    const EdgeGrid grid(m_edges);
-    return grid.isFit() ? grid.anyPair(ask) : EdgeTree(m_edges).anyPair(ask);
+    const EdgeBoxes boxes(m_edges, memory);
+    const std::optional<bool> answer = ChainTree(boxes, memory).anyPair(ask);
+    return answer ? *answer : EdgeTree(m_edges, boxes).anyPair(ask);
 }
 
 bool OutlineMeetings::askAllPairs(const AskPair& ask) const
 {
-    const std::vector<int>& lines = m_edges.lines();
-    for (auto a = lines.begin(); a != lines.end(); ++a) {
-        for (auto b = a + 1; b != lines.end(); ++b) {
-            if (ask(*a, *b))
+    for (int a = 0; a < m_edges.count(); ++a) {
+        for (int b = 0; b < a && m_edges.isLine(a); ++b) {
+            if (m_edges.isLine(b) && ask(a, b))
                 return true;
         }
     }

@@ -5,6 +5,7 @@
 
 #include "common/OutlineEdges.h"
 
+#include <memory_resource>
 #include <vector>
 
 /// Looks for an edge of a closed outline that meets three others, with the answer of the double
@@ -36,7 +37,7 @@ private:
     };
 
     bool askAllPairs(const AskPair& ask) const;
-    bool askNeighbourhoods(const AskPair& ask) const;
+    bool askNeighbourhoods(const AskPair& ask, std::pmr::memory_resource* memory) const;
     bool ask(int a, int b);
     bool isThird(int edge, int partner, const QPointF& meeting);
     bool askNeighbours(int edge);

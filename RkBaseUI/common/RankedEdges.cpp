@@ -22,24 +22,28 @@ constexpr std::size_t fewEdges = 500;
 
 } // namespace
 
-void sortByRank(std::vector<RankedEdge>& edges)
+void sortByRank(RankedEdges::iterator begin, RankedEdges::iterator end, RankedEdges& scratch)
 {
-    if (edges.size() < fewEdges) {
-        std::sort(edges.begin(), edges.end(),
+    const auto count = std::size_t(end - begin);
+    if (count < fewEdges) {
+        std::sort(begin, end,
                   [](const RankedEdge& a, const RankedEdge& b) { return a.rank < b.rank; });
         return;
     }
     // How many ranks have each digit; by partial sums, where the first of them goes.
     std::array<std::array<std::uint32_t, digits + 1>, 3> places = {};
-    for (const RankedEdge& edge : edges) {
+    for (auto edge = begin; edge != end; ++edge) {
         for (std::size_t i = 0; i < places.size(); ++i)
-            ++places[i][digit(edge.rank, i) + 1];
+            ++places[i][digit(edge->rank, i) + 1];
     }
-    std::vector<RankedEdge> sorted(edges.size());
+    scratch.resize(std::max(scratch.size(), count));
+    auto from = begin;
+    auto to = scratch.begin();
     for (std::size_t i = 0; i < places.size(); ++i) {
         std::partial_sum(places[i].begin(), places[i].end(), places[i].begin());
-        for (const RankedEdge& edge : edges)
-            sorted[places[i][digit(edge.rank, i)]++] = edge;
-        edges.swap(sorted);
+        std::for_each(from, from + std::ptrdiff_t(count),
+                      [&](const RankedEdge& edge) { to[places[i][digit(edge.rank, i)]++] = edge; });
+        std::swap(from, to);
     }
+    std::copy(from, from + std::ptrdiff_t(count), begin);
 }

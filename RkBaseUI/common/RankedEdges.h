@@ -4,6 +4,7 @@
 #pragma once
 
 #include <cstdint>
+#include <memory_resource>
 #include <vector>
 
 /// An edge with its place on some scale.
@@ -13,5 +14,7 @@ struct RankedEdge
     int edge;
 };
 
-/// Sorts by rank, in a time in proportion to the edges.
-void sortByRank(std::vector<RankedEdge>& edges);
+using RankedEdges = std::pmr::vector<RankedEdge>;
+
+/// Sorts by rank, in a time in proportion to the edges. What `scratch` holds is lost.
+void sortByRank(RankedEdges::iterator begin, RankedEdges::iterator end, RankedEdges& scratch);
