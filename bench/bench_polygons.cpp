@@ -77,7 +77,7 @@ Outline skylines(int count)
 /// Around a random tree on a square grid: a simple outline that winds through the plane.
 Outline aroundRandomTree(int count)
 {
-    // Depth first over the cells of a grid, two vertices a cell; the outline keeps to the left of
+    // Depth first over the cells of a grid, two vertices a cell; the outline keeps to the right of
     // the tree's branches.
     const int side = std::max(2, int(std::sqrt(count / 2.0)));
     const int dx[] = {1, 0, -1, 0};
@@ -320,6 +320,7 @@ bool benchConvex()
         });
         met = bench::report("convexity / bare loop", size, ours, floor, 1.5) && met;
         std::printf("found convex: %d of %d\n", convex, 2 * runs);
+        met = convex == 2 * runs && met;
     }
     return met;
 }

@@ -104,7 +104,7 @@ private:
         std::size_t count = 0;
         for (std::size_t b = chainB.begin; b < chainB.end; ++b) {
             others[count] = b;
-            count += m_tree.m_edges[b].overlaps(box(leafA)) ? 1 : 0;
+            count += std::size_t(m_tree.m_edges[b].overlaps(box(leafA)));
         }
         m_comparisons += chainLength;
         for (std::size_t a = chainA.begin; a < chainA.end && count > 0; ++a) {

@@ -3,6 +3,12 @@
 
 #include "common/CollinearEdges.h"
 
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+#include <vector>
+
 namespace {
 
 // With these cells, edges that are nearly parallel are at most in neighbouring ones, and so are
@@ -13,6 +19,8 @@ constexpr double pieceCells = 1 << 28; ///< the same; less than 8 reaches to bot
 constexpr double highestRank = std::numeric_limits<std::uint32_t>::max();
 static_assert(OutlineEdges::widening * directionCells < 0.5);
 static_assert(8 * OutlineEdges::widening * offsetCells <= 0.5);
+static_assert(OutlineEdges::largestOffset * offsetCells < highestRank);
+static_assert(16 * pieceCells <= highestRank + 1);
 
 /// For the same with K = 32 (see OutlineEdges.cpp).
 constexpr double largeLengthening = 1.0 / 2;
@@ -106,7 +114,8 @@ bool CollinearEdges::anyOfOneOffset(Iterator begin, Iterator end, const AskPair&
             std::rotate(begin, last + 1, end);
     }
     return anyRun(begin, end, [&](Iterator first, Iterator last) {
-        return anyEquallyDirected(first, last, ask) || anySideBySide(first, last, ask);
+        return !areAllParallel(first, last)
+            && (anyEquallyDirected(first, last, ask) || anySideBySide(first, last, ask));
     });
 }
 

@@ -6,7 +6,7 @@
 #include "common/OutlineEdges.h"
 #include "common/RankedEdges.h"
 
-#include <vector>
+#include <memory_resource>
 
 /// Pairs of edges on one line but for rounding, at any distance, found by sorting by offset and
 /// direction.

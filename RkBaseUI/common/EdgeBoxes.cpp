@@ -20,10 +20,10 @@ EdgeBoxes::EdgeBoxes(const OutlineEdges& edges, std::pmr::memory_resource* memor
 {
     const QPointF axis = edges.axis() * (cellsInReach / edges.reach());
     const auto along = [&](const QPointF& position) {
-        return std::int32_t(position.x() * axis.x() + position.y() * axis.y());
+        return position.x() * axis.x() + position.y() * axis.y();
     };
     const auto across = [&](const QPointF& position) {
-        return std::int32_t(position.y() * axis.x() - position.x() * axis.y());
+        return position.y() * axis.x() - position.x() * axis.y();
     };
     for (int edge = 0; edge < edges.count(); ++edge) {
         if (!edges.isLine(edge))
@@ -31,10 +31,10 @@ EdgeBoxes::EdgeBoxes(const OutlineEdges& edges, std::pmr::memory_resource* memor
         const QLineF line = edges.line(edge);
         const QPointF from = line.p1() - edges.centre();
         const QPointF to = line.p2() - edges.centre();
-        const std::int32_t left = std::min(along(from), along(to));
-        const std::int32_t right = std::max(along(from), along(to));
-        const std::int32_t low = std::min(across(from), across(to));
-        const std::int32_t high = std::max(across(from), across(to));
+        const auto left = std::int32_t(std::min(along(from), along(to)));
+        const auto right = std::int32_t(std::max(along(from), along(to)));
+        const auto low = std::int32_t(std::min(across(from), across(to)));
+        const auto high = std::int32_t(std::max(across(from), across(to)));
         const std::int32_t moreAlong = ((right - left) >> lengtheningBits) + room;
         const std::int32_t moreAcross = ((high - low) >> lengtheningBits) + room;
         m_boxes[std::size_t(edge)] =

@@ -5,6 +5,11 @@
 
 #include "common/RankedEdges.h"
 
+#include <algorithm>
+#include <cmath>
+#include <cstdint>
+#include <limits>
+
 namespace {
 
 /// How often boxes of a few edges each may cover the outline's own box before another order of the

@@ -6,6 +6,7 @@
 #include "common/EdgeBoxes.h"
 #include "common/OutlineEdges.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <vector>
 

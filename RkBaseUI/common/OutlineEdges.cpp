@@ -7,7 +7,9 @@
 //
 // For edges e = p + s a and f = q - t b (0 <= s, t <= 1), QLineF::intersects computes D = a x b
 // and, with c = p - q, the parameters s = (b x c) / D and t = (a x c) / D, and wants both in [0,
-// 1]. Swapping e and f swaps s and t exactly, so a pair meets or does not, whichever is asked.
+// 1]. Swapping e and f swaps s and t exactly, so a pair meets or does not, whichever is asked. (Qt
+// must be built so that each product is rounded before it is added; for x86-64 that is the rule.)
+//
 // Below, |v| is the larger coordinate of v, u = 2^-53, k = |D| / (|a| |b|) (nearly the sine of the
 // angle), r = u / k, and M the largest coordinate, taken from the centre of the outline. Rounding
 // changes D by at most 2.02 u |a| |b|, b x c by 2.02 u |b| |c| and a x c by 2.02 u |a| |c|, besides
@@ -25,8 +27,8 @@
 // This is used twice. With K = 2^20, `angle`, the edges are lengthened by 2^-16 only, so that few
 // of them overlap that do not meet, even where the edges are long and close together. What remains
 // are pairs with k < K u: their directions differ by not much more than that, and the distances of
-// their two lines from the centre by less than 8 K u M, because |b x c| is at most |D| but for
-// rounding. Of these, with K = 32, only those can meet that overlap when lengthened by a half, or
+// their two lines from the centre, or a point near it, by less than 8 K u M, because |b x c| is at
+// most |D| but for rounding. Of these, with K = 32, only those can meet that overlap when lengthened by a half, or
 // whose directions differ by less than 38 u.
 namespace {
 

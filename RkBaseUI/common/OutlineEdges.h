@@ -68,7 +68,7 @@ public:
     /// Where the line, lengthened, crosses the upright or the level through a certain point near
     /// the centre, whichever is steeper to it; by its sign on one side or the other.
     double offset(const QLineF& line) const;
-    /// More than any offset, in reaches.
+    /// More than any offset, in reaches: from the centre it is at most twice the reach.
     static constexpr double largestOffset = 3;
 
     /// From the start to the end of an edge.

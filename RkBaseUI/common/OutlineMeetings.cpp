@@ -9,6 +9,8 @@
 
 #include <cstddef>
 #include <memory>
+#include <memory_resource>
+#include <optional>
 
 namespace {
 

@@ -5,7 +5,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstddef>
 #include <numeric>
+#include <utility>
 
 namespace {
 

@@ -9,7 +9,9 @@
 
 #include <QtTest>
 
+#include <algorithm>
 #include <optional>
+#include <random>
 #include <set>
 #include <utility>
 
@@ -51,11 +53,12 @@ class tst_EdgeSearch : public QObject
 private slots:
     void ranks_data();
     void ranks();
-    void boxesAreLongerAndWiderThanEdges();
+    void searchesReachALittleBeyondEdges();
     void searchesFindWhatMeets_data();
     void searchesFindWhatMeets();
     void fewPairsAreAsked_data();
     void fewPairsAreAsked();
+    void parallelEdgesAreNotAsked();
     void searchesEnd();
 };
 
@@ -98,25 +101,32 @@ void tst_EdgeSearch::ranks()
     }
 }
 
-/// A turned rectangle with a side in two parts, one of which begins where the other one ends or a
-/// little beyond or beside that.
-void tst_EdgeSearch::boxesAreLongerAndWiderThanEdges()
+/// The second and the sixth edge lie on one line, or nearly, and nearly touch.
+void tst_EdgeSearch::searchesReachALittleBeyondEdges()
 {
     RandomOutlines random(3);
     for (int i = 0; i < 10000; ++i) {
         const double height = random.real(-1, 1);
-        const double end = random.real(-0.5, 0.5);
-        const double gap = OutlineEdges::lengthening * (end + 1);
-        const double side = random.whole(-1, 1) * OutlineEdges::widening / 2;
+        const double end = random.real(-0.2, 0.2);
+        const double gap = OutlineEdges::lengthening * (end + 0.4);
+        const double side = random.whole(-1, 1) * OutlineEdges::widening;
         const Outline outline = random.turned({{-1, height},
+                                               {-0.7, height},
+                                               {-0.4, height},
                                                {end, height},
+                                               {end, 2},
+                                               {3, 2},
                                                {end + gap, height + side},
-                                               {end + 0.5, height + side},
-                                               {end + 0.5, 2},
-                                               {-1, 2}});
+                                               {end + 1, height + side},
+                                               {end + 2, height + side},
+                                               {end + 3, height + side},
+                                               {end + 3, -2},
+                                               {-1, -2}});
         const OutlineEdges edges(outline);
         const EdgeBoxes boxes(edges);
-        QVERIFY(boxes[0].overlaps(boxes[2]));
+        const Pair pair(2, 6);
+        QCOMPARE(pairsOf(ChainTree(boxes)).count(pair), 1U);
+        QCOMPARE(pairsOf(EdgeTree(edges, boxes)).count(pair), 1U);
     }
 }
 
@@ -173,9 +183,12 @@ void tst_EdgeSearch::fewPairsAreAsked_data()
     QTest::newRow("turned comb") << random.turned(comb) << true;
     QTest::newRow("star with short edges") << random.star(4000, 0.99) << true;
     QTest::newRow("star") << random.star(4000, 0) << false;
-    QTest::newRow("irregular steps, rising at 45 degrees") << random.alongDiagonal(4000, 1) << true;
+    QTest::newRow("irregular steps, level") << random.alongLine(4000, {1, 0}) << true;
+    QTest::newRow("irregular steps, upright") << random.alongLine(4000, {0, 1}) << true;
+    QTest::newRow("irregular steps, rising at 45 degrees")
+        << random.alongLine(4000, {1, 1}) << true;
     QTest::newRow("irregular steps, falling at 45 degrees")
-        << random.alongDiagonal(4000, -1) << true;
+        << random.alongLine(4000, {1, -1}) << true;
     QTest::newRow("square spiral") << spiral << false;
     QTest::newRow("turned square spiral") << random.turned(spiral) << false;
 }
@@ -192,6 +205,14 @@ void tst_EdgeSearch::fewPairsAreAsked()
     QVERIFY(pairsOf(CollinearEdges(edges)).size() < most);
 }
 
+/// Beside a vertex so far away the teeth of a comb seem to lie on one line.
+void tst_EdgeSearch::parallelEdgesAreNotAsked()
+{
+    Outline outline = RandomOutlines(1).comb(4000);
+    outline.back() = QPointF(500, -2.7e8);
+    QVERIFY(pairsOf(CollinearEdges(OutlineEdges(outline))).size() < outline.size());
+}
+
 void tst_EdgeSearch::searchesEnd()
 {
     const Outline outline = RandomOutlines(2).comb(100);
@@ -202,6 +223,9 @@ void tst_EdgeSearch::searchesEnd()
     QCOMPARE(ChainTree(boxes).anyPair(third), std::optional<bool>(true));
     QCOMPARE(std::exchange(asked, 0), 3);
     QVERIFY(EdgeTree(edges, boxes).anyPair(third));
+    QCOMPARE(std::exchange(asked, 0), 3);
+    const Outline straight = RandomOutlines(2).alongLine(100, {1, 0.3});
+    QVERIFY(CollinearEdges(OutlineEdges(straight)).anyPair(third));
     QCOMPARE(std::exchange(asked, 0), 3);
 }
 

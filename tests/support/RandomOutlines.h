@@ -99,14 +99,13 @@ public:
         return outline;
     }
 
-    /// A triangle with many vertices on the side that rises by 45 degrees, or falls where `rise` is
-    /// -1.
-    Outline alongDiagonal(int count, int rise)
+    /// A triangle with many vertices on a side in this direction, at irregular distances.
+    Outline alongLine(int count, const QPointF& direction)
     {
         Outline outline = {{0, 0}};
         for (int i = 0; i < count - 2; ++i)
-            outline.push_back(outline.back() + QPointF(1, rise) * whole(1, 1000) / 4);
-        outline.emplace_back(outline.back().x(), 0);
+            outline.push_back(outline.back() + direction * whole(1, 1000) / 4);
+        outline.push_back(outline.back() + QPointF(-direction.y(), direction.x()));
         return outline;
     }
 
