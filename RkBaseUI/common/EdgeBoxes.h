@@ -9,6 +9,7 @@
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <memory_resource>
 #include <vector>
 
@@ -30,12 +31,14 @@ public:
         }
 
         bool isEmpty() const { return m_reach[0] == -farthest; }
-        /// Without a branch: whether none of the sums is negative.
+        /// Whether they overlap, or are a cell apart: two sums of opposite sides are made at once,
+        /// of which one may carry over into the other. None is negative when they overlap.
         bool overlaps(const Box& other) const
         {
-            return ((m_reach[0] + other.m_reach[2]) | (m_reach[1] + other.m_reach[3])
-                    | (m_reach[2] + other.m_reach[0]) | (m_reach[3] + other.m_reach[1]))
-                >= 0;
+            constexpr std::uint64_t signs = 0x8000000080000000;
+            const std::uint64_t sums = leftAndDown() + other.rightAndUp();
+            const std::uint64_t otherSums = rightAndUp() + other.leftAndDown();
+            return ((sums | otherSums) & signs) == 0;
         }
         void add(const Box& other)
         {
@@ -44,6 +47,15 @@ public:
         }
 
     private:
+        std::uint64_t leftAndDown() const { return twoSides(0); }
+        std::uint64_t rightAndUp() const { return twoSides(2); }
+        std::uint64_t twoSides(std::size_t first) const
+        {
+            std::uint64_t sides = 0;
+            std::memcpy(&sides, &m_reach[first], sizeof sides);
+            return sides;
+        }
+
         /// More than any box reaches; two of these can be added.
         static constexpr std::int32_t farthest = 1 << 30;
 

@@ -27,9 +27,9 @@
 // This is used twice. With K = 2^20, `angle`, the edges are lengthened by 2^-16 only, so that few
 // of them overlap that do not meet, even where the edges are long and close together. What remains
 // are pairs with k < K u: their directions differ by not much more than that, and the distances of
-// their two lines from the centre, or a point near it, by less than 8 K u M, because |b x c| is at
-// most |D| but for rounding. Of these, with K = 32, only those can meet that overlap when lengthened by a half, or
-// whose directions differ by less than 38 u.
+// their two lines from the centre, or from a point near it, by less than 8 K u M, because |b x c|
+// is at most |D| but for rounding. Of these, with K = 32, only those can meet that overlap when
+// lengthened by a half, or whose directions differ by less than 38 u.
 namespace {
 
 constexpr double largestCoordinate = 1e100;
