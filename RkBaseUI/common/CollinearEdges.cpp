@@ -138,7 +138,7 @@ bool CollinearEdges::anyEquallyDirected(Iterator begin, Iterator end, const AskP
 bool CollinearEdges::anyOfOneRun(Iterator begin, Iterator end, const AskPair& ask)
 {
     if (areAllParallel(begin, end))
-        return false;
+        return false; // As the rest would give, but sooner.
     struct Directed
     {
         double direction;

@@ -31,8 +31,8 @@ public:
         }
 
         bool isEmpty() const { return m_reach[0] == -farthest; }
-        /// Whether they overlap, or are a cell apart: two sums of opposite sides are made at once,
-        /// of which one may carry over into the other. None is negative when they overlap.
+        /// Whether none of the sums of opposite sides is negative. Two of these are made at once;
+        /// one may carry 1 over into the other, so boxes that are a cell apart may overlap as well.
         bool overlaps(const Box& other) const
         {
             constexpr std::uint64_t signs = 0x8000000080000000;
@@ -56,7 +56,7 @@ public:
             return sides;
         }
 
-        /// More than any box reaches; two of these can be added.
+        /// Not less than any box reaches, so the sum of two sides is a number.
         static constexpr std::int32_t farthest = 1 << 30;
 
         std::array<std::int32_t, 4> m_reach = {-farthest, -farthest, -farthest, -farthest};

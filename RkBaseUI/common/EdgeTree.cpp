@@ -9,13 +9,14 @@
 #include <cmath>
 #include <cstdint>
 #include <limits>
+#include <random>
 
 namespace {
 
 /// How often boxes of a few edges each may cover the outline's own box before another order of the
 /// edges is taken.
 constexpr double largestCover = 8;
-/// Of so many leaves one is looked at to learn that.
+/// Of so many leaves about one is looked at to learn that.
 constexpr std::size_t samplingStep = 16;
 
 constexpr int directionBits = 4;
@@ -77,7 +78,8 @@ EdgeTree::EdgeTree(const OutlineEdges& edges, const EdgeBoxes& boxes)
     }
     // Edges that follow one another mostly lie together. Where they surround the others, as in a
     // spiral with straight sides, those of one direction do that lie side by side.
-    if (sampledCover() > largestCover)
+    m_isByDirection = sampledCover() > largestCover;
+    if (m_isByDirection)
         orderByDirection();
     std::size_t nodes = 1;
     for (std::size_t leaves = root().end; leaves > 1; leaves = (leaves + 1) / 2)
@@ -90,7 +92,9 @@ EdgeTree::EdgeTree(const OutlineEdges& edges, const EdgeBoxes& boxes)
 double EdgeTree::sampledCover() const
 {
     double area = 0;
-    for (std::size_t leaf = 0; leaf < root().end; leaf += samplingStep) {
+    // At random, so that what repeats along the outline is not missed.
+    std::minstd_rand random;
+    for (std::size_t leaf = 0; leaf < root().end; leaf += 1 + random() % (2 * samplingStep - 1)) {
         const Range edges = edgesOf({0, leaf, leaf + 1});
         area += around(edges, unitVector(sumOfVectors(edges))).area();
     }

@@ -18,6 +18,9 @@ public:
     /// The edges and their boxes must outlive this.
     EdgeTree(const OutlineEdges& edges, const EdgeBoxes& boxes);
 
+    /// Whether the edges are taken by direction instead of as they follow one another.
+    bool isByDirection() const { return m_isByDirection; }
+
     /// Asks the pairs, each once; true when one of them gives that.
     bool anyPair(const AskPair& ask) const;
 
@@ -74,6 +77,7 @@ private:
 
     const OutlineEdges& m_edges;
     const EdgeBoxes& m_surroundings;
+    bool m_isByDirection = false;
     std::vector<int> m_order;
     std::vector<Box> m_boxes; ///< a binary tree, root first
 };

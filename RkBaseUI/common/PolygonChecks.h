@@ -34,7 +34,8 @@ RKBASEUI_EXPORT bool isConvex(std::vector<QPointF> polygon);
 /// that lie on one another, of long ones that all but meet in one place, and of those on one line
 /// that have exactly the same direction but other lengths, unless that is along an axis or at 45
 /// degrees to it. The same holds where a vertex is about 1e8 times as far away as neighbouring
-/// edges are from one another, and for coordinates beyond 1e100 or edges shorter than 1e-100.
+/// edges are from one another, for coordinates beyond 1e100, edges shorter than 1e-100, and where
+/// many vertices are not numbers.
 RKBASEUI_EXPORT bool isSelfIntersection(std::vector<QPointF> polygon);
 
 /// Whether the algorithm library can split the polygon: IsBlockPloyCanSegment(polygon, value).

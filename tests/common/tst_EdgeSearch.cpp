@@ -14,6 +14,7 @@
 #include <random>
 #include <set>
 #include <utility>
+#include <vector>
 
 Q_DECLARE_METATYPE(Outline)
 
@@ -27,16 +28,23 @@ bool meet(const OutlineEdges& edges, const Pair& pair)
         == QLineF::BoundedIntersection;
 }
 
-/// The pairs that a search asks, the smaller edge first.
+/// The pairs that a search asks, in order, the smaller edge first.
 template <typename Search>
-std::set<Pair> pairsOf(Search search)
+std::vector<Pair> askedBy(Search search)
 {
-    std::set<Pair> pairs;
+    std::vector<Pair> pairs;
     search.anyPair([&pairs](int a, int b) {
-        pairs.insert(std::minmax(a, b));
+        pairs.push_back(std::minmax(a, b));
         return false;
     });
     return pairs;
+}
+
+template <typename Search>
+std::set<Pair> pairsOf(const Search& search)
+{
+    const std::vector<Pair> asked = askedBy(search);
+    return {asked.begin(), asked.end()};
 }
 
 bool isFitForChains(const EdgeBoxes& boxes)
@@ -53,6 +61,8 @@ class tst_EdgeSearch : public QObject
 private slots:
     void ranks_data();
     void ranks();
+    void boxesOverlap_data();
+    void boxesOverlap();
     void searchesReachALittleBeyondEdges();
     void searchesFindWhatMeets_data();
     void searchesFindWhatMeets();
@@ -99,6 +109,42 @@ void tst_EdgeSearch::ranks()
         QCOMPARE(rankOfEdge[std::size_t(edges[i].edge)], edges[i].rank);
         QVERIFY(seen.insert(edges[i].edge).second);
     }
+}
+
+void tst_EdgeSearch::boxesOverlap_data()
+{
+    QTest::addColumn<QPoint>("shift");
+    QTest::addColumn<bool>("expected");
+    QTest::newRow("the same") << QPoint(0, 0) << true;
+    QTest::newRow("touching at the right") << QPoint(6, 0) << true;
+    QTest::newRow("touching at the left") << QPoint(-6, 0) << true;
+    QTest::newRow("touching above") << QPoint(0, 4) << true;
+    QTest::newRow("touching below") << QPoint(0, -4) << true;
+    QTest::newRow("apart at the right") << QPoint(8, 0) << false;
+    QTest::newRow("apart at the left") << QPoint(-8, 0) << false;
+    QTest::newRow("apart above") << QPoint(0, 6) << false;
+    QTest::newRow("apart below") << QPoint(0, -6) << false;
+    QTest::newRow("apart along both") << QPoint(-8, 6) << false;
+    QTest::newRow("far apart") << QPoint(900000000, -900000000) << false;
+}
+
+/// Boxes six cells wide and four high, at several places.
+void tst_EdgeSearch::boxesOverlap()
+{
+    QFETCH(QPoint, shift);
+    using Box = EdgeBoxes::Box;
+    for (const QPoint& place : {QPoint(0, 0), QPoint(-1000, 5), QPoint(50000000, -50000000)}) {
+        const QPoint other = place + shift;
+        const Box a(3 - place.x(), 2 - place.y(), 3 + place.x(), 2 + place.y());
+        const Box b(3 - other.x(), 2 - other.y(), 3 + other.x(), 2 + other.y());
+        QTEST(a.overlaps(b), "expected");
+        QTEST(b.overlaps(a), "expected");
+        QVERIFY(!a.isEmpty() && !a.overlaps(Box()) && !Box().overlaps(a));
+        Box both = a;
+        both.add(b);
+        QVERIFY(both.overlaps(a) && both.overlaps(b));
+    }
+    QVERIFY(Box().isEmpty() && !Box().overlaps(Box()));
 }
 
 /// The second and the sixth edge lie on one line, or nearly, and nearly touch.
@@ -175,22 +221,25 @@ void tst_EdgeSearch::searchesFindWhatMeets()
 void tst_EdgeSearch::fewPairsAreAsked_data()
 {
     QTest::addColumn<Outline>("outline");
-    QTest::addColumn<bool>("isFit");
+    QTest::addColumn<bool>("isFit"); // for the chains
+    QTest::addColumn<bool>("isByDirection"); // the tree
     RandomOutlines random(1);
     const Outline comb = random.comb(4000);
     const Outline spiral = RandomOutlines::squareSpiral(4000);
-    QTest::newRow("comb") << comb << true;
-    QTest::newRow("turned comb") << random.turned(comb) << true;
-    QTest::newRow("star with short edges") << random.star(4000, 0.99) << true;
-    QTest::newRow("star") << random.star(4000, 0) << false;
-    QTest::newRow("irregular steps, level") << random.alongLine(4000, {1, 0}) << true;
-    QTest::newRow("irregular steps, upright") << random.alongLine(4000, {0, 1}) << true;
+    QTest::newRow("comb") << comb << true << false;
+    QTest::newRow("turned comb") << random.turned(comb) << true << false;
+    QTest::newRow("star with short edges") << random.star(4000, 0.99) << true << false;
+    QTest::newRow("star") << random.star(4000, 0) << false << false;
+    QTest::newRow("irregular steps, level") << random.alongLine(4000, {1, 0}) << true << false;
+    QTest::newRow("irregular steps, upright") << random.alongLine(4000, {0, 1}) << true << false;
     QTest::newRow("irregular steps, rising at 45 degrees")
-        << random.alongLine(4000, {1, 1}) << true;
+        << random.alongLine(4000, {1, 1}) << true << false;
     QTest::newRow("irregular steps, falling at 45 degrees")
-        << random.alongLine(4000, {1, -1}) << true;
-    QTest::newRow("square spiral") << spiral << false;
-    QTest::newRow("turned square spiral") << random.turned(spiral) << false;
+        << random.alongLine(4000, {1, -1}) << true << false;
+    QTest::newRow("square spiral") << spiral << false << true;
+    QTest::newRow("turned square spiral") << random.turned(spiral) << false << true;
+    QTest::newRow("angles inside one another")
+        << RandomOutlines::nestedAngles(2000) << false << true;
 }
 
 void tst_EdgeSearch::fewPairsAreAsked()
@@ -200,9 +249,15 @@ void tst_EdgeSearch::fewPairsAreAsked()
     const EdgeBoxes boxes(edges);
     QTEST(isFitForChains(boxes), "isFit");
     const std::size_t most = 12 * outline.size();
-    QVERIFY(pairsOf(ChainTree(boxes)).size() < most);
-    QVERIFY(pairsOf(EdgeTree(edges, boxes)).size() < most);
-    QVERIFY(pairsOf(CollinearEdges(edges)).size() < most);
+    const EdgeTree tree(edges, boxes);
+    QTEST(tree.isByDirection(), "isByDirection");
+    const std::vector<Pair> askedByChains = askedBy(ChainTree(boxes));
+    const std::vector<Pair> askedByTree = askedBy(tree);
+    QVERIFY(askedByChains.size() < most);
+    QVERIFY(askedByTree.size() < most);
+    QVERIFY(askedBy(CollinearEdges(edges)).size() < most);
+    QCOMPARE(pairsOf(ChainTree(boxes)).size(), askedByChains.size()); // Each once.
+    QCOMPARE(pairsOf(tree).size(), askedByTree.size());
 }
 
 /// Beside a vertex so far away the teeth of a comb seem to lie on one line.
@@ -210,7 +265,7 @@ void tst_EdgeSearch::parallelEdgesAreNotAsked()
 {
     Outline outline = RandomOutlines(1).comb(4000);
     outline.back() = QPointF(500, -2.7e8);
-    QVERIFY(pairsOf(CollinearEdges(OutlineEdges(outline))).size() < outline.size());
+    QVERIFY(askedBy(CollinearEdges(OutlineEdges(outline))).size() < outline.size());
 }
 
 void tst_EdgeSearch::searchesEnd()

@@ -125,6 +125,26 @@ public:
         return spiral;
     }
 
+    /// A band that goes to and fro along the sides of an angle, with 16 edges to and fro each, of
+    /// which eight make a side.
+    static Outline nestedAngles(int count)
+    {
+        constexpr int pieces = 8;
+        Outline outline;
+        for (int i = 0; i < count; ++i) {
+            const double shift = i * 0.001;
+            Outline angle;
+            for (int j = 0; j < pieces; ++j)
+                angle.emplace_back(-10 - shift + (20 + 2 * shift) * j / pieces, -shift);
+            for (int j = 0; j < pieces; ++j)
+                angle.emplace_back(10 + shift, -shift + (20 + shift) * j / (pieces - 1));
+            if (i % 2 == 1)
+                std::reverse(angle.begin(), angle.end());
+            outline.insert(outline.end(), angle.begin(), angle.end());
+        }
+        return outline;
+    }
+
     Outline turned(Outline outline)
     {
         const double angle = real(0, 6.28);
