@@ -66,6 +66,7 @@ CollinearEdges::CollinearEdges(const OutlineEdges& edges, std::pmr::memory_resou
 bool CollinearEdges::anyPair(const AskPair& ask)
 {
     const double cellsPerUnit = offsetCells / m_edges.reach();
+    m_ranked.clear();
     m_ranked.reserve(std::size_t(m_edges.lineCount()));
     for (int edge = 0; edge < m_edges.count(); ++edge) {
         if (!m_edges.isLine(edge))

@@ -147,7 +147,7 @@ void tst_EdgeSearch::boxesOverlap()
     QVERIFY(Box().isEmpty() && !Box().overlaps(Box()));
 }
 
-/// The second and the sixth edge lie on one line, or nearly, and nearly touch.
+/// Edges 2 and 6 lie on one line, or nearly, and nearly touch.
 void tst_EdgeSearch::searchesReachALittleBeyondEdges()
 {
     RandomOutlines random(3);

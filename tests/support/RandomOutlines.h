@@ -125,8 +125,8 @@ public:
         return spiral;
     }
 
-    /// A band that goes to and fro along the sides of an angle, with 16 edges to and fro each, of
-    /// which eight make a side.
+    /// A line that goes to and fro along the two sides of an angle, each time further out, with 16
+    /// vertices each way.
     static Outline nestedAngles(int count)
     {
         constexpr int pieces = 8;
